@@ -1,0 +1,35 @@
+// The numbered run-time errors of the platform: one exception type, thrown by the runtime and by the operations on
+// pictures, text and files.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+struct RuntimeError : std::runtime_error {
+  explicit RuntimeError(int number_);
+  RuntimeError(int number_, const std::string& text) : std::runtime_error(text), number(number_) {}
+  int number;
+};
+
+// The platform's text of an error, in Japanese. A number that the platform does not know has a general text.
+inline const char* error_text(int number) {
+  switch (number) {
+    case 5: return "プロシージャの呼び出し、または引数が不正です。";
+    case 6: return "オーバーフローしました。";
+    case 7: return "メモリが不足しています。";
+    case 9: return "インデックスが有効範囲にありません。";
+    case 11: return "0 で除算しました。";
+    case 53: return "ファイルが見つかりません。";
+    case 61: return "ディスクの空き容量が不足しています。";
+    case 62: return "ファイルにこれ以上データがありません。";
+    case 70: return "書き込みできません。";
+    case 75: return "パス名が無効です。";
+    case 76: return "パスが見つかりません。";
+    case 380: return "プロパティの値が不正です。";
+    case 481: return "ピクチャが不正です。";
+    case 482: return "プリンタ エラーです。";
+    default: return "アプリケーション定義またはオブジェクト定義のエラーです。";
+  }
+}
+
+inline RuntimeError::RuntimeError(int number_) : RuntimeError(number_, error_text(number_)) {}
