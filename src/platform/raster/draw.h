@@ -1,6 +1,6 @@
-// The platform's drawing calls, pixel by pixel as that platform gives them. All take the drawing state (mode, width, style,
-// fill) from the surface that they draw on, clip to it, and note what they touched. None allocates for figures of the size
-// of a view, and none costs more than the figure's own pixels.
+// The platform's drawing calls, pixel by pixel as that platform gives them. All take the drawing state (mode, width,
+// style, fill) from the surface that they draw on, clip to it, and note what they touched. None allocates for figures
+// of the size of a view, and none costs more than the figure's own pixels.
 #pragma once
 
 #include "platform/raster/surface.h"
@@ -16,8 +16,8 @@ enum class Stretch : int { BLACKONWHITE = 1, WHITEONBLACK = 2, COLORONCOLOR = 3 
 // Where the source lies outside its surface the destination keeps what it held.
 void BitBlt(Surface& dest, int x, int y, int w, int h, const Surface& src, int sx, int sy, Rop rop = SRCCOPY);
 
-// Axes are independent. Negative sizes mirror. Shrinking: mode 3 keeps the first row and the last column of a group, mode 1
-// the bitwise AND of the group, mode 2 the OR.
+// Axes are independent. Negative sizes mirror. Shrinking: mode 3 keeps the first row and the last column of a group,
+// mode 1 the bitwise AND of the group, mode 2 the OR.
 void StretchBlt(Surface& dest, int x, int y, int w, int h, const Surface& src, int sx, int sy, int sw, int sh,
                 Rop rop = SRCCOPY, Stretch mode = Stretch::COLORONCOLOR);
 
@@ -41,8 +41,8 @@ struct Point {
 };
 enum class LineForm { plain, box, box_fill };  // plain: at width 1 without its last point; boxes hold both corners
 
-// Line draws with the surface's DrawMode and DrawWidth; a box_fill is filled with the pen's colour and each pixel is inked
-// once, a box takes the surface's FillStyle for its inside.
+// Line draws with the surface's DrawMode and DrawWidth; a box_fill is filled with the pen's colour and each pixel is
+// inked once, a box takes the surface's FillStyle for its inside.
 void Line(Surface& s, int x1, int y1, int x2, int y2, Colour colour, LineForm form = LineForm::plain);
 // One dot of DrawWidth pixels.
 void PSet(Surface& s, int x, int y, Colour colour);

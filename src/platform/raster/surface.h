@@ -25,10 +25,10 @@ struct Rect {
 };
 
 struct DrawState {
-  int DrawMode = 13;   // 13 copy pen, 7 XOR pen
-  int DrawWidth = 1;   // pixels, 1 or more
-  int DrawStyle = 0;   // 0 solid, 2 dotted (width 1 only)
-  int FillStyle = 1;   // 0 solid, 1 transparent, 7 diagonal cross
+  int DrawMode = 13;  // 13 copy pen, 7 XOR pen
+  int DrawWidth = 1;  // pixels, 1 or more
+  int DrawStyle = 0;  // 0 solid, 2 dotted (width 1 only)
+  int FillStyle = 1;  // 0 solid, 1 transparent, 7 diagonal cross
   Colour ForeColor = 0;
   Colour FillColor = 0;
 };
@@ -46,8 +46,8 @@ class Surface {
   Surface(Surface&&) noexcept = default;
   Surface& operator=(Surface&&) noexcept = default;
 
-  // What lies in both sizes stays, the rest takes the colour back. Memory is kept when the new size fits and is not much
-  // smaller, so that a work surface may change its size at every use.
+  // What lies in both sizes stays, the rest takes the colour back. Memory is kept when the new size fits and is not
+  // much smaller, so that a work surface may change its size at every use.
   void resize(int width, int height, Colour back = WHITE);
   void fill(Colour colour);
 
@@ -55,8 +55,8 @@ class Surface {
   int height() const { return height_; }
   int depth() const { return depth_; }
   ptrdiff_t stride() const { return stride_; }  // bytes from one row to the next, a multiple of 4
-  // Rows go from the top down. Pixel bytes are blue, green, red and at depth 32 a fourth that is always 0xFF; 16 bits are
-  // 5-6-5; 8 bits are 3-3-2 with red in the high bits.
+  // Rows go from the top down. Pixel bytes are blue, green, red and at depth 32 a fourth that is always 0xFF; 16 bits
+  // are 5-6-5; 8 bits are 3-3-2 with red in the high bits.
   uint8_t* row(int y) { return bits_.get() + y * stride_; }
   const uint8_t* row(int y) const { return bits_.get() + y * stride_; }
   // depth 32 alone; a pixel is 0xFFRRGGBB

@@ -1,0 +1,117 @@
+#include <cmath>
+#include <utility>
+
+#include "platform/forms/controls.h"
+#include "platform/forms/runtime.h"
+#include "platform/number.h"
+
+namespace forms {
+
+using raster::Surface;
+
+PictureBox::PictureBox(Window& window_, const char* name_, int index_)
+    : Control(window_, Kind::picture, name_, index_) {}
+
+namespace {
+int whole(double px) { return std::max(0, static_cast<int>(std::lround(px))); }
+}  // namespace
+
+void PictureBox::resized(bool quietly) {
+  if (image_.depth() != desktop().depth) {
+    const raster::DrawState draw = image_.draw;
+    image_ = Surface(desktop().depth);
+    screen_ = Surface(desktop().depth);
+    image_.draw = screen_.draw = draw;
+  }
+  const raster::Colour back = plain_colour(back_color_);
+  image_.resize(whole(width_), whole(height_), back);
+  if (!auto_redraw_) screen_.resize(whole(width_), whole(height_), back);
+  if (!quietly) Resize.fire(index);
+}
+
+void PictureBox::AutoRedraw(bool v) {
+  if (touched(), auto_redraw_ == v) return;
+  auto_redraw_ = v;
+  if (v) {
+    image_.touch_all();
+    return;
+  }
+  screen_.resize(image_.width(), image_.height());
+  BitBlt(screen_, 0, 0, image_.width(), image_.height(), image_, 0, 0);
+  // The screen already shows just this; only what the image still owed it remains to be painted.
+  screen_.take_touched();
+  const raster::Rect owed = image_.take_touched();
+  if (!owed.empty()) screen_.touch(owed.left, owed.top, owed.right, owed.bottom);
+}
+
+void PictureBox::Picture(Surface&& bitmap) {
+  touched();
+  const raster::DrawState draw = image_.draw;
+  const int w = bitmap.width();
+  const int h = bitmap.height();
+  if (bitmap.depth() == desktop().depth) {
+    image_ = std::move(bitmap);
+  } else {
+    Surface converted(w, h, desktop().depth);
+    BitBlt(converted, 0, 0, w, h, bitmap, 0, 0);
+    image_ = std::move(converted);
+  }
+  image_.draw = draw;
+  image_.touch_all();
+  if (auto_size_) {
+    const double px = pixels_in(container_scale());
+    Move(Left(), Top(), w / px, h / px);
+  } else {
+    image_.resize(whole(width_), whole(height_), plain_colour(back_color_));
+  }
+}
+
+void PictureBox::Cls() { target().fill(plain_colour(back_color_)); }
+
+void PictureBox::Refresh() {
+  touched();
+  if (!peer) return;
+  flush();
+  peer->paint_now();
+}
+
+void PictureBox::BackColor(uint32_t v) {
+  if (BackColor() == v) return;
+  Control::BackColor(v);
+  Cls();
+}
+
+void PictureBox::ForeColor(uint32_t v) {
+  Control::ForeColor(v);
+  image_.draw.ForeColor = screen_.draw.ForeColor = plain_colour(v);
+}
+
+void PictureBox::back_to_design() {
+  Control::back_to_design();
+  image_ = Surface(desktop().depth);
+  screen_ = Surface(desktop().depth);
+  auto_redraw_ = true;
+  auto_size_ = false;
+  inside = Scale::pixels;
+  border = false;
+  font = Font{};
+}
+
+void Line(PictureBox& box, double x1, double y1, double x2, double y2, uint32_t colour, raster::LineForm form) {
+  raster::Line(box.target(), to_int32(x1), to_int32(y1), to_int32(x2), to_int32(y2), plain_colour(colour), form);
+}
+
+void PSet(PictureBox& box, double x, double y, uint32_t colour) {
+  raster::PSet(box.target(), to_int32(x), to_int32(y), plain_colour(colour));
+}
+
+raster::Colour plain_colour(uint32_t colour) {
+  switch (colour) {
+    case 0x80000005: return raster::WHITE;               // window background
+    case 0x8000000F: return raster::RGB(240, 240, 240);  // button face
+    case 0x80000012: return raster::RGB(0, 0, 0);        // button text
+    default: return colour & raster::WHITE;
+  }
+}
+
+}  // namespace forms

@@ -1,0 +1,126 @@
+#include "platform/forms/runtime.h"
+
+#include "platform/error.h"
+#include "platform/number.h"
+
+namespace forms {
+
+namespace {
+
+constinit std::vector<Window*> windows;
+Desktop unseen;
+constinit Desktop* the_desktop = &unseen;
+
+// How many event procedures are running, one inside the other.
+constinit int depth_of_events = 0;
+constinit bool ended = false;
+constinit int ended_by = 0;
+
+void stop_program() {
+  ended = true;
+  for (Window* w : windows) w->drop();
+  the_desktop->quit();
+}
+
+}  // namespace
+
+Desktop& desktop() { return *the_desktop; }
+void use_desktop(Desktop* d) { the_desktop = d ? d : &unseen; }
+std::vector<Window*>& all_windows() { return windows; }
+
+int Desktop::message_box(const std::string& /*text*/, int /*style*/, const std::string& /*title*/) { return 1; }
+
+void Desktop::text_size(const std::string& text, const Font& font, int& width, int& height) {
+  height = static_cast<int>(font.size * 4 / 3 + 0.5);
+  width = static_cast<int>(text.size()) * height / 2;
+}
+
+bool enter_raw(void (*run)(void*), void* with) {
+  if (ended) return false;
+  ++depth_of_events;
+  try {
+    run(with);
+  } catch (const ProgramEnd&) {
+    stop_program();
+  } catch (const RuntimeError& e) {
+    ended_by = e.number;
+    the_desktop->error_box(e.number, e.what());
+    stop_program();
+  } catch (const std::bad_alloc&) {
+    ended_by = 7;
+    the_desktop->error_box(7, error_text(7));
+    stop_program();
+  }
+  if (--depth_of_events == 0 && !ended) flush();
+  return !ended;
+}
+
+bool has_ended() { return ended; }
+int fatal_error() { return ended_by; }
+void End() { throw ProgramEnd{}; }
+
+void DoEvents() {
+  flush();
+  the_desktop->do_events();
+  if (ended) throw ProgramEnd{};
+}
+
+void flush() {
+  for (Window* w : windows) {
+    if (!w->peer) continue;
+    if (const uint32_t changes = w->take_pending()) w->peer->update(changes);
+    for (Control* c : w->controls()) {
+      if (!c->peer) continue;
+      if (const uint32_t changes = c->take_pending()) c->peer->update(changes);
+      if (c->kind != Kind::picture || !c->is_visible()) continue;
+      const raster::Rect touched = static_cast<PictureBox*>(c)->shown().take_touched();
+      if (!touched.empty()) c->peer->drawn(touched);
+    }
+  }
+}
+
+bool reachable(const Window& window) { return !ended && window.Loaded() && window.is_visible() && window.is_enabled(); }
+
+bool reachable(const Control& control) {
+  for (const Control* c = &control; c; c = c->container) {
+    if (!c->is_visible() || !c->is_enabled()) return false;
+  }
+  return reachable(control.window);
+}
+
+int MsgBox(const std::string& text, int style, const std::string& title) {
+  flush();
+  const int answer = the_desktop->message_box(text, style, title);
+  if (ended) throw ProgramEnd{};
+  return answer;
+}
+
+void Beep() { the_desktop->beep(); }
+
+void mouse_event(int what, int dx, int dy) {
+  if (what == 1) {
+    the_desktop->pointer_move(dx, dy);
+  } else {
+    the_desktop->pointer_button(what == 2);
+  }
+}
+
+double screen_width() { return the_desktop->screen_w * TWIPS; }
+double screen_height() { return the_desktop->screen_h * TWIPS; }
+
+raster::Colour QBColor(int n) {
+  constexpr raster::Colour COLOURS[] = {
+      0x000000, 0x800000, 0x008000, 0x808000, 0x000080, 0x800080, 0x008080, 0xC0C0C0,
+      0x808080, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF,
+  };
+  if (n < 0 || n > 15) throw RuntimeError(5);
+  return COLOURS[n];
+}
+
+void reset_runtime() {
+  for (Window* w : windows) w->drop();
+  ended = false;
+  ended_by = 0;
+}
+
+}  // namespace forms

@@ -1,0 +1,88 @@
+// What runs the windows: the one place through which every event enters the logic, the end of the process, message
+// boxes, the screen, and the Desktop, which does on a real display what the model only says.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "platform/forms/controls.h"
+#include "platform/forms/window.h"
+
+namespace forms {
+
+// What a display does for the runtime. This base is a display that nobody looks at: no peers, boxes answered OK.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+  virtual std::unique_ptr<Peer> show(Window& /*window*/) { return nullptr; }
+  virtual std::unique_ptr<Peer> show(Control& /*control*/) { return nullptr; }
+  virtual int message_box(const std::string& text, int style, const std::string& title);
+  virtual void error_box(int /*number*/, const std::string& /*text*/) {}  // an error that nothing caught
+  virtual void do_events() {}
+  virtual void beep() {}
+  virtual void quit() {}  // the program has ended; events are no longer wanted
+  // The pointer moves by dx, dy screen pixels, or the left button goes down or up where the pointer is. The events that
+  // follow enter later, where those of a real pointer enter.
+  virtual void pointer_move(int /*dx*/, int /*dy*/) {}
+  virtual void pointer_button(bool /*down*/) {}
+  virtual bool has_focus(const Window& /*window*/) { return false; }
+  // Size of a text in pixels in that font. Without a display: half the font's height a byte.
+  virtual void text_size(const std::string& text, const Font& font, int& width, int& height);
+
+  int screen_w = 1280, screen_h = 1024;  // pixels
+  int depth = 32;                        // bits a pixel of the display and of every surface
+  int frame_w = 0, frame_h = 0;          // pixels that a window's frame adds to its inside
+};
+
+// Never null. Giving null brings back the display that nobody looks at.
+Desktop& desktop();
+void use_desktop(Desktop* d);
+
+// --- events
+struct ProgramEnd {};  // thrown by End; passes through all procedures up to the entry
+
+bool enter_raw(void (*run)(void*), void* with);
+// Runs an event procedure. Whatever it throws stops here: a run-time error is shown in the platform's box and ends the
+// process. When the outermost one returns, what has changed goes to the screen. False if the program has ended.
+template <class F>
+bool enter(F&& procedure) {
+  return enter_raw([](void* f) { (*static_cast<std::remove_reference_t<F>*>(f))(); }, &procedure);
+}
+bool has_ended();
+// Number of the error that ended the program, 0 if none did.
+int fatal_error();
+// Ends the process at once, from whatever depth.
+[[noreturn]] void End();
+// Lets waiting events in.
+void DoEvents();
+// Brings what has changed to the screen.
+void flush();
+
+// Whether an event of the pointer or the keyboard can reach it: it and all that holds it shown and enabled.
+bool reachable(const Control& control);
+bool reachable(const Window& window);
+
+// --- boxes. Buttons 0 OK, 1 OK and Cancel, 3 Yes, No, Cancel, 4 Yes and No; icon 32 question, 48 exclamation; 256
+// second button default, 512 third. Answers 1 OK, 2 Cancel, 6 Yes, 7 No.
+int MsgBox(const std::string& text, int style = 0, const std::string& title = "");
+void Beep();
+
+// The keypad's pointer: what 1 moves it by dx, dy screen pixels, 2 is left button down, 4 left button up.
+void mouse_event(int what, int dx, int dy);
+
+// --- the screen, in twips
+double screen_width();
+double screen_height();
+inline int bits_per_pixel() { return desktop().depth; }
+
+// The platform's sixteen colours.
+raster::Colour QBColor(int n);
+
+// All windows of the program, in the order of their construction.
+std::vector<Window*>& all_windows();
+// All windows dropped, nothing has ended: a fresh start in the same process.
+void reset_runtime();
+
+}  // namespace forms

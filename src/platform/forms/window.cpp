@@ -1,0 +1,154 @@
+#include "platform/forms/window.h"
+
+#include <cmath>
+
+#include "platform/error.h"
+#include "platform/forms/runtime.h"
+
+namespace forms {
+
+void throw_subscript() { throw RuntimeError(9); }
+
+Window::Window(const char* name_, Border border_, Scale scale_, void (*design)())
+    : name(name_), border(border_), scale(scale_), design_(design) {
+  all_windows().push_back(this);
+}
+
+const Window& Window::touched() const {
+  if (!loaded_) const_cast<Window*>(this)->Load();
+  return *this;
+}
+
+void Window::Load() {
+  if (loaded_) return;
+  loaded_ = true;
+  design_();
+  peer = desktop().show(*this);
+  for (Control* c : controls_) c->peer = desktop().show(*c);
+  Form_Load.fire(-1);
+}
+
+bool Window::Unload() {
+  if (!loaded_) return true;
+  int cancel = 0;
+  Form_QueryUnload.fire(-1, cancel);
+  if (cancel == 0) Form_Unload.fire(-1, cancel);
+  if (cancel != 0) return false;
+  drop();
+  return true;
+}
+
+void Window::drop() {
+  for (auto c = controls_.rbegin(); c != controls_.rend(); ++c) (*c)->back_to_design();
+  peer.reset();
+  loaded_ = visible_ = was_shown_ = false;
+  enabled_ = true;
+  owner_ = nullptr;
+  window_state_ = mouse_pointer_ = 0;
+  mouse_icon_ = nullptr;
+  pending_ = 0;
+}
+
+void Window::design(double left, double top, int inside_w, int inside_h, const char* caption) {
+  left_ = left;
+  top_ = top;
+  inside_w_ = inside_w;
+  inside_h_ = inside_h;
+  width_ = (inside_w + desktop().frame_w) * TWIPS;
+  height_ = (inside_h + desktop().frame_h) * TWIPS;
+  caption_ = caption;
+}
+
+void Window::note(uint32_t changes) {
+  if (peer) pending_ |= changes;
+}
+
+void Window::Move(double left, double top, double width, double height) {
+  touched();
+  if (left != left_ || top != top_) {
+    left_ = left;
+    top_ = top;
+    note(GEOMETRY);
+  }
+  if (width == width_ && height == height_) return;
+  const int w = std::max(0, static_cast<int>(std::lround(width / TWIPS)) - desktop().frame_w);
+  const int h = std::max(0, static_cast<int>(std::lround(height / TWIPS)) - desktop().frame_h);
+  inside(w, h);
+  width_ = width;  // as it was given, where the inside is whole pixels
+  height_ = height;
+}
+
+void Window::inside(int w, int h) {
+  touched();
+  if (w == inside_w_ && h == inside_h_) return;
+  inside_w_ = w;
+  inside_h_ = h;
+  width_ = (w + desktop().frame_w) * TWIPS;
+  height_ = (h + desktop().frame_h) * TWIPS;
+  note(GEOMETRY);
+  Form_Resize.fire(-1);
+}
+
+void Window::Caption(std::string text) {
+  touched().caption_ = std::move(text);
+  note(TEXT);
+}
+
+void Window::WindowState(int v) {
+  if (v < 0 || v > 2) throw RuntimeError(380);
+  if (touched().window_state_ == v) return;
+  note(LOOK);
+  state_changed(v);
+}
+
+void Window::state_changed(int window_state) {
+  if (window_state_ == window_state) return;
+  window_state_ = window_state;
+  if (was_shown_) Form_Resize.fire(-1);
+}
+
+void Window::Enabled(bool v) {
+  touched().enabled_ = v;
+  note(ENABLED);
+}
+
+void Window::MousePointer(int v) {
+  touched().mouse_pointer_ = v;
+  note(POINTER);
+}
+
+void Window::MouseIcon(const char* cursor_sheet) {
+  touched().mouse_icon_ = cursor_sheet;
+  note(POINTER);
+}
+
+void Window::Show(Window* owner) {
+  touched();
+  owner_ = owner;
+  visible_ = true;
+  note(VISIBLE);
+  if (was_shown_) return;
+  was_shown_ = true;
+  Form_Resize.fire(-1);
+}
+
+void Window::Hide() {
+  touched().visible_ = false;
+  note(VISIBLE);
+}
+
+void Window::Refresh() {
+  touched();
+  flush();
+  if (peer) peer->paint_now();
+}
+
+void Window::SetFocus() {
+  touched();
+  flush();
+  if (peer) peer->take_focus();
+}
+
+bool Window::Focused() const { return loaded_ && desktop().has_focus(*this); }
+
+}  // namespace forms
