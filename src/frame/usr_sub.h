@@ -1,0 +1,57 @@
+// The shared procedures. Each is defined in the room that owns it; rooms meet through this header alone.
+#pragma once
+
+#include <string>
+
+#include "frame/usr_def.h"
+
+namespace kiso {
+
+// --- frame: start, end, palettes
+void START_PROGRAM(const std::string& command_line);  // loads P_WIN with that command line
+// Runs the end dialog and the shutdown. result 0: the program is really to end, 1: the user cancelled.
+void END_PROGRAM(int& result);
+void PAL_SHOW();  // nothing while P_WIN loads or when the palettes are not wanted
+void PAL_HIDE();
+
+// --- frame: view. Coordinates are DRAW pixels unless told otherwise.
+void VIEW_FIT();     // recomputes the view from the window's size and repaints
+void VIEW_REDRAW();  // DRAW from PIC; throws away what a stroke has put on DRAW
+void VIEW_COMMIT();  // reads the whole view back into PIC, after a snapshot into UNDO
+// The same for a rectangle, both corners included, which is clamped in place.
+void VIEW_COMMIT_RECT(double& x1, double& y1, double& x2, double& y2);
+// The VIEW_ORG for a zoom to rate round the point x, y, which is told at the present rate.
+void VIEW_CENTER(double x, double y, int rate, int16_t& outX, int16_t& outY);
+// The screen box of n x n picture pixels round the pointer.
+void DOT_SNAP(double x, double y, int n, int& left, int& top, int& right, int& bottom);
+
+// --- frame: undo
+void UNDO_BUTTON(int n);  // 0 or 1 enables, any other number disables
+void DROP_STROKE();       // the uncommitted stroke goes, DRAW shows PIC
+void UNDO_SWAP();         // the picture and the snapshot change places
+
+// --- tools
+void TOOL_CHANGED();                       // after CUR_TOOL has been set from a window
+void SET_CURSOR(const std::string& word);  // "LUPE", "SPOIT", "PAINT", "WAIT"; any other word is the arrow
+
+// --- colour
+// r, g, b 0 to 255; h in degrees 0 up to 360, s and v 0 to 1. Greys have h 0 and s 0.
+void RGB_TO_HSV(double r, double g, double b, double& h, double& s, double& v);
+// h is rounded to whole degrees; s and v are clamped in place; r, g, b 0 to 1. A hue that rounds below 0 sets nothing.
+void HSV_TO_RGB(double h, double& s, double& v, double& r, double& g, double& b);
+void COL_LOAD_WORK();                     // CUR_ from the colour that is being edited
+void COL_UPDATE();                        // commits a change of CUR_; the single way to do so
+void COL_DRAW_BARS(int r, int g, int b);  // the three level bars
+void WAIT_PROGRESS(double done, double total);
+
+// --- persist
+// result: 0 loaded, 1 no such add-in, -1 failed, -2 unsupported extension, -5 file not found.
+void LOAD_PICTURE(const std::string& name, int& result);
+// False if the file could not be written; the user has been told.
+bool SAVE_PICTURE(const std::string& name);
+void READ_CNF();
+void WRITE_CNF();
+void READ_CDI();
+void WRITE_CDI();
+
+}  // namespace kiso
