@@ -19,10 +19,17 @@ inline const char* error_text(int number) {
     case 7: return "メモリが不足しています。";
     case 9: return "インデックスが有効範囲にありません。";
     case 11: return "0 で除算しました。";
+    case 52: return "ファイル名または番号が不正です。";
     case 53: return "ファイルが見つかりません。";
+    case 54: return "ファイル モードが不正です。";
+    case 55: return "ファイルは既に開かれています。";
+    case 57: return "デバイス I/O エラーです。";
+    case 58: return "既に同名のファイルが存在しています。";
     case 61: return "ディスクの空き容量が不足しています。";
     case 62: return "ファイルにこれ以上データがありません。";
+    case 67: return "ファイルが多すぎます。";
     case 70: return "書き込みできません。";
+    case 74: return "ディスク間で名前を変更することはできません。";
     case 75: return "パス名が無効です。";
     case 76: return "パスが見つかりません。";
     case 380: return "プロパティの値が不正です。";
