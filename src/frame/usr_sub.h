@@ -26,13 +26,15 @@ void VIEW_CENTER(double x, double y, int rate, int16_t& outX, int16_t& outY);
 void DOT_SNAP(double x, double y, int n, int& left, int& top, int& right, int& bottom);
 
 // --- frame: undo
-void UNDO_BUTTON(int n);  // 0 or 1 enables, any other number disables
-void DROP_STROKE();       // the uncommitted stroke goes, DRAW shows PIC
-void UNDO_SWAP();         // the picture and the snapshot change places
+void DROP_STROKE();  // the uncommitted stroke goes, DRAW shows PIC
+void UNDO_SWAP();    // the picture and the snapshot change places
 
 // --- tools
 void TOOL_CHANGED();                       // after CUR_TOOL has been set from a window
 void SET_CURSOR(const std::string& word);  // "LUPE", "SPOIT", "PAINT", "WAIT"; any other word is the arrow
+
+// --- palette
+void UNDO_BUTTON(int n);  // 0 or 1 enables the UNDO button, any other number disables it
 
 // --- colour
 // r, g, b 0 to 255; h in degrees 0 up to 360, s and v 0 to 1. Greys have h 0 and s 0.
@@ -53,5 +55,9 @@ void READ_CNF();
 void WRITE_CNF();
 void READ_CDI();
 void WRITE_CDI();
+// Shows a COLINDEX cell: that colour, and a letter that can be read on it.
+void DICT_CELL_SHOW(int index, int r, int g, int b);
+// The dictionary cell of a letter key (65 to 90) is read, or written with the colour given.
+void DICT_KEY(int letter, Colour pixel);
 
 }  // namespace kiso
