@@ -1,0 +1,107 @@
+#include "platform/raster/surface.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+
+#include "platform/error.h"
+#include "platform/raster/pixel.h"
+
+namespace raster {
+
+namespace {
+
+// Rows start on cache lines, so that a row's first pixel never shares one with the row before.
+constexpr ptrdiff_t ROW_ALIGNMENT = 64;
+
+ptrdiff_t stride_for(int width, int depth) {
+  ptrdiff_t bytes = static_cast<ptrdiff_t>(width) * (depth / 8);
+  return (bytes + ROW_ALIGNMENT - 1) / ROW_ALIGNMENT * ROW_ALIGNMENT;
+}
+
+// A work surface that shrinks to less than a quarter gives its memory back, unless there is little of it.
+bool worth_keeping(size_t capacity, size_t need) {
+  constexpr size_t LITTLE = size_t{1} << 20;
+  return need <= capacity && (capacity <= LITTLE || capacity / 4 <= need);
+}
+
+}  // namespace
+
+void Surface::FreeBits::operator()(uint8_t* p) const { std::free(p); }
+
+Surface::Surface(int width, int height, int depth, Colour back) : depth_(depth) { resize(width, height, back); }
+
+void Surface::resize(int width, int height, Colour back) {
+  if (width < 0 || height < 0 || width > MAX_SIDE || height > MAX_SIDE) throw RuntimeError(380);
+  const ptrdiff_t stride = stride_for(width, depth_);
+  const size_t need = static_cast<size_t>(stride) * static_cast<size_t>(height);
+  const int kept_rows = std::min(height, height_), kept_columns = std::min(width, width_);
+  const size_t kept_bytes = static_cast<size_t>(kept_columns) * static_cast<size_t>(depth_ / 8);
+
+  if (worth_keeping(capacity_, need)) {
+    // The rows move to their new places in the order in which none is overwritten before it has moved.
+    auto move_row = [&](int y) { std::memmove(bits_.get() + y * stride, bits_.get() + y * stride_, kept_bytes); };
+    if (kept_bytes > 0 && stride < stride_) {
+      for (int y = 1; y < kept_rows; ++y) move_row(y);
+    } else if (kept_bytes > 0 && stride > stride_) {
+      for (int y = kept_rows - 1; y > 0; --y) move_row(y);
+    }
+  } else {
+    std::unique_ptr<uint8_t[], FreeBits> fresh(
+        static_cast<uint8_t*>(need > 0 ? std::aligned_alloc(ROW_ALIGNMENT, need) : nullptr));
+    if (need > 0 && !fresh) throw RuntimeError(7);
+    for (int y = 0; y < kept_rows && kept_bytes > 0; ++y)
+      std::memcpy(fresh.get() + y * stride, bits_.get() + y * stride_, kept_bytes);
+    bits_ = std::move(fresh);
+    capacity_ = need;
+  }
+  stride_ = stride;
+  width_ = width;
+  height_ = height;
+
+  const uint32_t pixel = to_pixel(back);
+  at_depth(depth_, [&](auto px) {
+    for (int y = 0; y < height_; ++y)
+      for (int x = y < kept_rows ? kept_columns : 0; x < width_; ++x) px.put(row(y) + x * px.bytes, pixel);
+  });
+  touched_ = Rect{};
+  touch_all();
+}
+
+void Surface::fill(Colour colour) {
+  const uint32_t pixel = to_pixel(colour);
+  at_depth(depth_, [&](auto px) {
+    for (int y = 0; y < height_; ++y) {
+      uint8_t* p = row(y);
+      for (int x = 0; x < width_; ++x) px.put(p + x * px.bytes, pixel);
+    }
+  });
+  touch_all();
+}
+
+uint32_t Surface::to_pixel(Colour colour) const {
+  return at_depth(depth_, [&](auto px) { return px.from_rgb32(rgb32_of(colour)); });
+}
+
+Colour Surface::to_colour(uint32_t pixel) const {
+  return at_depth(depth_, [&](auto px) { return colour_of(px.to_rgb32(pixel)); });
+}
+
+void Surface::touch(int left, int top, int right, int bottom) {
+  const Rect cut{std::max(left, 0), std::max(top, 0), std::min(right, width_), std::min(bottom, height_)};
+  if (cut.empty()) return;
+  if (touched_.empty()) {
+    touched_ = cut;
+  } else {
+    touched_ = {std::min(touched_.left, cut.left), std::min(touched_.top, cut.top), std::max(touched_.right, cut.right),
+                std::max(touched_.bottom, cut.bottom)};
+  }
+}
+
+Rect Surface::take_touched() {
+  const Rect taken = touched_;
+  touched_ = Rect{};
+  return taken;
+}
+
+}  // namespace raster
