@@ -20,22 +20,26 @@ int64_t whole(int64_t v) { return (v + 8) >> 4; }
 Point whole(Fine f) { return {static_cast<int>(whole(f.x)), static_cast<int>(whole(f.y))}; }
 Fine half(Fine a, Fine b) { return {(a.x + b.x + 1) / 2, (a.y + b.y + 1) / 2}; }
 
-// Whether the inner points lie so near the chord that the straight line does.
+// Whether the inner points lie so near the chord that the straight line does. Along the chord's major axis they must
+// lie between the ends. Ends are included but for the first inner point of a chord to the left or up: such a curve that
+// leaves its start slowly is halved once more, and the platform's curves show it.
 bool is_flat(const Curve& c) {
-  Fine chord{c.p[3].x - c.p[0].x, c.p[3].y - c.p[0].y};
+  const Fine chord{c.p[3].x - c.p[0].x, c.p[3].y - c.p[0].y};
   const bool by_x = std::abs(chord.x) >= std::abs(chord.y);
-  const int64_t major = by_x ? chord.x : chord.y, minor = by_x ? chord.y : chord.x, pixels = whole(major);
-  for (int i = 1; i <= 2; ++i) {
-    const int64_t dx = c.p[i].x - c.p[0].x, dy = c.p[i].y - c.p[0].y, offset = by_x ? dx : dy;
-    if (offset < std::min<int64_t>(0, major) || offset > std::max<int64_t>(0, major)) return false;
+  const int64_t length = by_x ? chord.x : chord.y, rise = by_x ? chord.y : chord.x;
+  int64_t along[2], off[2];  // of the inner points, from the start
+  for (int i = 0; i < 2; ++i) {
+    const int64_t dx = c.p[i + 1].x - c.p[0].x, dy = c.p[i + 1].y - c.p[0].y;
+    along[i] = by_x ? dx : dy;
+    off[i] = by_x ? dy : dx;
   }
+  const bool between = length > 0 ? std::min(along[0], along[1]) >= 0 && std::max(along[0], along[1]) <= length
+                                  : along[0] < 0 && along[1] <= 0 && std::min(along[0], along[1]) >= length;
+  if (!between) return false;
+  const int64_t pixels = whole(length);
   if (pixels == 0) return true;
-  const int64_t slope = minor / pixels;
-  for (int i = 1; i <= 2; ++i) {
-    const int64_t dx = c.p[i].x - c.p[0].x, dy = c.p[i].y - c.p[0].y;
-    if (std::abs((by_x ? dy : dx) - slope * whole(by_x ? dx : dy)) > 16) return false;
-  }
-  return true;
+  const int64_t slope = rise / pixels;
+  return std::abs(off[0] - slope * whole(along[0])) <= 16 && std::abs(off[1] - slope * whole(along[1])) <= 16;
 }
 
 // Calls line(from, to) for the straight pieces of the curve in order.
