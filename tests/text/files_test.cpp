@@ -141,18 +141,20 @@ TEST_F(Files, AFileTooLargeIsOutOfMemory) {
 TEST_F(Files, PermissionDenied) {
   put("A.TXT", "a\r\n");
   put("B.TXT", "b\r\n");
+  put("C.TXT", "c\r\n");
   ASSERT_EQ(chmod((folder + "A.TXT").c_str(), 0), 0);
   ASSERT_EQ(chmod((folder + "B.TXT").c_str(), 0444), 0);
   give_up_rights();
   EXPECT_EQ(error_of([&] { Open(folder + "A.TXT", Mode::Input, 1); }), 70);
   EXPECT_EQ(error_of([&] { Open(folder + "B.TXT", Mode::Output, 1); }), 70);
-  EXPECT_EQ(error_of([&] { FileCopy(folder + "A.TXT", folder + "C.TXT"); }), 70);
+  EXPECT_EQ(error_of([&] { FileCopy(folder + "A.TXT", folder + "D.TXT"); }), 70);
+  EXPECT_EQ(error_of([&] { Replace(folder + "C.TXT", folder + "B.TXT"); }), 70);  // a file protected by its user
   ASSERT_EQ(chmod(folder.c_str(), 0555), 0);
   EXPECT_EQ(error_of([&] { Open(folder + "NEW.TXT", Mode::Output, 1); }), 70);
   EXPECT_EQ(error_of([&] { Kill(folder + "B.TXT"); }), 70);
-  EXPECT_EQ(error_of([&] { Name(folder + "B.TXT", folder + "C.TXT"); }), 70);
-  EXPECT_EQ(error_of([&] { Replace(folder + "B.TXT", folder + "A.TXT"); }), 70);
-  EXPECT_EQ(error_of([&] { FileCopy(folder + "B.TXT", folder + "C.TXT"); }), 70);
+  EXPECT_EQ(error_of([&] { Name(folder + "B.TXT", folder + "D.TXT"); }), 70);
+  EXPECT_EQ(error_of([&] { Replace(folder + "C.TXT", folder + "D.TXT"); }), 70);
+  EXPECT_EQ(error_of([&] { FileCopy(folder + "B.TXT", folder + "D.TXT"); }), 70);
   take_rights_back();
   ASSERT_EQ(chmod(folder.c_str(), 0755), 0);
 }
@@ -166,6 +168,22 @@ TEST_F(Files, AnOutputShowsOnlyWhenItIsClosed) {
   Close(1);
   EXPECT_EQ(get("A.TXT"), "new\r\n");
   EXPECT_EQ(count(), 1u);
+}
+
+TEST_F(Files, ANumberIsFreeBehindItsScopeAndNothingIsWritten) {
+  put("A.TXT", "a\r\n");
+  try {
+    const NumberScope in(1), out(2);
+    Open(folder + "A.TXT", Mode::Input, 1);
+    Open(folder + "B.TXT", Mode::Output, 2);
+    Print(2, LineInput(1));
+    LineInput(1);
+  } catch (const RuntimeError& e) {
+    EXPECT_EQ(e.number, 62);
+  }
+  EXPECT_EQ(count(), 1u);
+  EXPECT_EQ(error_of([] { LineInput(1); }), 52);
+  EXPECT_EQ(error_of([] { Print(2, ""); }), 52);
 }
 
 // The limit on a file's size stands for the full disk.
@@ -274,8 +292,10 @@ TEST_F(Files, NameDoesNotReplace) {
 TEST_F(Files, ReplaceTakesTheNameInOneStep) {
   put("A.TMP", "new");
   put("A.TXT", "old");
+  ASSERT_EQ(chmod((folder + "A.TXT").c_str(), 0600), 0);
   Replace(folder + "A.TMP", folder + "A.TXT");
   EXPECT_EQ(get("A.TXT"), "new");
+  EXPECT_EQ(fs::status(folder + "A.TXT").permissions(), fs::perms{0600});
   EXPECT_EQ(count(), 1u);
   EXPECT_EQ(error_of([&] { Replace(folder + "A.TMP", folder + "A.TXT"); }), 53);
   EXPECT_EQ(error_of([&] { Replace(folder + "A.TXT", folder); }), 75);
