@@ -94,9 +94,14 @@ class PictureBox : public Control, public PointerEvents, public KeyEvents {
 };
 
 // The drawing methods of a picture box: coordinates rounded to the nearest pixel, system colours allowed.
-void Line(PictureBox& box, double x1, double y1, double x2, double y2, uint32_t colour,
-          raster::LineForm form = raster::LineForm::plain);
-void PSet(PictureBox& box, double x, double y, uint32_t colour);
+void draw_line(PictureBox& box, double x1, double y1, double x2, double y2, uint32_t colour, raster::LineForm form);
+void draw_dot(PictureBox& box, double x, double y, uint32_t colour);
+// Templates, so that they are a better match than the calls on surfaces whatever the numbers' types.
+void Line(PictureBox& box, auto x1, auto y1, auto x2, auto y2, uint32_t colour,
+          raster::LineForm form = raster::LineForm::plain) {
+  draw_line(box, x1, y1, x2, y2, colour, form);
+}
+void PSet(PictureBox& box, auto x, auto y, uint32_t colour) { draw_dot(box, x, y, colour); }
 
 // A button's picture: a cell cut out of a sprite sheet.
 class ImageBox : public Control, public PointerEvents {

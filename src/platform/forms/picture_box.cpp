@@ -97,11 +97,11 @@ void PictureBox::back_to_design() {
   font = Font{};
 }
 
-void Line(PictureBox& box, double x1, double y1, double x2, double y2, uint32_t colour, raster::LineForm form) {
+void draw_line(PictureBox& box, double x1, double y1, double x2, double y2, uint32_t colour, raster::LineForm form) {
   raster::Line(box.target(), to_int32(x1), to_int32(y1), to_int32(x2), to_int32(y2), plain_colour(colour), form);
 }
 
-void PSet(PictureBox& box, double x, double y, uint32_t colour) {
+void draw_dot(PictureBox& box, double x, double y, uint32_t colour) {
   raster::PSet(box.target(), to_int32(x), to_int32(y), plain_colour(colour));
 }
 

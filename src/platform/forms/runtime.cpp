@@ -108,6 +108,12 @@ void mouse_event(int what, int dx, int dy) {
 double screen_width() { return the_desktop->screen_w * TWIPS; }
 double screen_height() { return the_desktop->screen_h * TWIPS; }
 
+raster::Surface LoadPicture(const std::string& path) {
+  return raster::load_picture_file(path, the_desktop->depth, the_desktop->png);
+}
+
+void SavePicture(const raster::Surface& picture, const std::string& path) { raster::save_bmp(picture, path); }
+
 raster::Colour QBColor(int n) {
   constexpr raster::Colour COLOURS[] = {
       0x000000, 0x800000, 0x008000, 0x808000, 0x000080, 0x800080, 0x008080, 0xC0C0C0,

@@ -9,6 +9,7 @@
 
 #include "platform/forms/controls.h"
 #include "platform/forms/window.h"
+#include "platform/raster/ico.h"
 
 namespace forms {
 
@@ -28,8 +29,12 @@ class Desktop {
   virtual void pointer_move(int /*dx*/, int /*dy*/) {}
   virtual void pointer_button(bool /*down*/) {}
   virtual bool has_focus(const Window& /*window*/) { return false; }
+  // What a script that drives the program may ask for later: texts of the start window, calls of the progress bar.
+  virtual void record(const char* /*kind*/, const std::string& /*entry*/) {}
   // Size of a text in pixels in that font. Without a display: half the font's height a byte.
   virtual void text_size(const std::string& text, const Font& font, int& width, int& height);
+
+  raster::PngDecoder png = nullptr;  // reads PNG inside of icons, where the display can
 
   int screen_w = 1280, screen_h = 1024;  // pixels
   int depth = 32;                        // bits a pixel of the display and of every surface
@@ -76,6 +81,11 @@ void mouse_event(int what, int dx, int dy);
 double screen_width();
 double screen_height();
 inline int bits_per_pixel() { return desktop().depth; }
+
+// A BMP or ICO file as a bitmap of the display's depth, and a bitmap as a BMP file, whole or not at all. Errors are
+// numbered: 53 no such file, 481 not such a picture, 70 permission denied, ...
+raster::Surface LoadPicture(const std::string& path);
+void SavePicture(const raster::Surface& picture, const std::string& path);
 
 // The platform's sixteen colours.
 raster::Colour QBColor(int n);
