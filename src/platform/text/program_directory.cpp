@@ -1,0 +1,97 @@
+#include "platform/text/program_directory.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "platform/text/files.h"
+
+namespace text {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* TEMPLATES[] = {"DEFAULT.CNF", "DEFAULT.AIN", "DEFAULT.CDI"};
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? value : "";
+}
+
+bool holds_templates(const std::string& directory) {
+  return !Dir(directory + "/DEFAULT.CNF").empty() && access(directory.c_str(), W_OK) == 0;
+}
+
+std::string users_directory() {
+  std::string base = environment("XDG_DATA_HOME");
+  if (base.empty()) base = environment("HOME") + "/.local/share";
+  return base + "/kiso";
+}
+
+// A template that the user has changed stays.
+void fill_with_templates(const std::string& directory) {
+  std::error_code failed;
+  fs::create_directories(directory, failed);
+  for (const char* name : TEMPLATES) {
+    const std::string from = executable_directory() + "/" + name;
+    const std::string to = directory + "/" + name;
+    if (Dir(to).empty() && !Dir(from).empty()) FileCopy(from, to);
+  }
+}
+
+// A directory of this user's alone, "" if there can be none.
+std::string private_directory() {
+  std::string base = environment("XDG_RUNTIME_DIR");
+  base = base.empty() ? "/tmp/kiso-" + std::to_string(getuid()) : base + "/kiso";
+  mkdir(base.c_str(), 0700);
+  struct stat found {};
+  const bool ours = lstat(base.c_str(), &found) == 0 && S_ISDIR(found.st_mode) && found.st_uid == getuid();
+  return ours && (found.st_mode & 077) == 0 ? base : "";
+}
+
+// The same path has the same link from run to run. FNV-1a.
+std::string link_name(const std::string& path) {
+  uint64_t hash = 1469598103934665603U;
+  for (const unsigned char c : path) hash = (hash ^ c) * 1099511628211U;
+  char name[17];
+  std::snprintf(name, sizeof name, "%016llx", static_cast<unsigned long long>(hash));
+  return name;
+}
+
+}  // namespace
+
+std::string executable_directory() {
+  std::error_code failed;
+  return fs::read_symlink("/proc/self/exe", failed).parent_path().string();
+}
+
+std::string program_directory() {
+  const std::string home = environment("KISO_HOME");
+  if (!home.empty()) return home;
+  const std::string own = executable_directory();
+  if (holds_templates(own)) return own;
+  const std::string users = users_directory();
+  fill_with_templates(users);
+  return users;
+}
+
+std::string SHORT_PATH(const std::string& path) {
+  std::error_code failed;
+  if (!fs::exists(path, failed)) return "";
+  if (path.find(' ') == std::string::npos) return path;
+  const std::string absolute = fs::absolute(path, failed).string();
+  const std::string directory = private_directory();
+  if (directory.empty()) return path;
+  const std::string link = directory + "/" + link_name(absolute);
+  if (fs::read_symlink(link, failed) == absolute) return link;
+  fs::remove(link, failed);
+  fs::create_symlink(absolute, link, failed);
+  return failed ? path : link;
+}
+
+}  // namespace text
