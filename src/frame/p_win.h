@@ -52,8 +52,8 @@ inline Timer& Timer1 = P_WIN.Timer1;
 inline Timer& Timer2 = P_WIN.Timer2;
 
 // --- fields of the window. Points are DRAW pixels unless told otherwise; x is (1), y is (2).
-extern int32_t COL_A, COL_B;                      // packed target and destination colour, taken at each left press
-extern int32_t COL_XOR;                           // white, the pen of all rubber bands
+extern Colour COL_A, COL_B;                       // packed target and destination colour, taken at each left press
+extern Colour COL_XOR;                            // white, the pen of all rubber bands
 extern Array<int32_t, 1, 2> PT_START;             // press point
 extern Array<int32_t, 1, 4> PT_LAST;              // last point; 1 to 4 the rectangle of an ellipse's preview
 extern Array<int16_t, 1, 2> PT_CUR;               // pointer, rounded, kept at each press and move

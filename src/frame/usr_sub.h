@@ -45,6 +45,16 @@ void COL_LOAD_WORK();                     // CUR_ from the colour that is being 
 void COL_UPDATE();                        // commits a change of CUR_; the single way to do so
 void COL_DRAW_BARS(int r, int g, int b);  // the three level bars
 void WAIT_PROGRESS(double done, double total);
+void PARAM_WIN_SHOW(int tool);  // the parameter window of that tool, if it has one
+void PARAM_WIN_CLOSE();         // unloads those that do not belong to CUR_TOOL
+void PARAM_WIN_HIDE();          // the open ones, while the program asks whether to end
+void PARAM_WIN_SHOW_AGAIN();
+// A packed pixel as its components.
+inline void unpack_colour(Colour pixel, int32_t& r, int32_t& g, int32_t& b) {
+  r = static_cast<int32_t>(pixel & 0xFF);
+  g = static_cast<int32_t>(pixel >> 8 & 0xFF);
+  b = static_cast<int32_t>(pixel >> 16 & 0xFF);
+}
 
 // --- persist
 // result: 0 loaded, 1 no such add-in, -1 failed, -2 unsupported extension, -5 file not found.

@@ -1,0 +1,29 @@
+// The event procedures of the main window: start, end, layout and view in this room, pointer and keys in src/tools.
+#pragma once
+
+namespace kiso::p_win {
+
+void Form_Load();
+void Form_Resize();
+void Form_QueryUnload(int& Cancel);
+void Form_Unload(int& Cancel);
+void X_SC_Change();
+void Y_SC_Change();
+void RB_Click();
+void DRAW_Paint();
+void DRAW_Resize();
+
+void DRAW_MouseDown(int Button, int Shift, float X, float Y);
+void DRAW_MouseMove(int Button, int Shift, float X, float Y);
+void DRAW_MouseUp(int Button, int Shift, float X, float Y);
+void DRAW_DblClick();
+bool tool_wants_each_press();  // a dot tool: the second press of a double click is one more dot
+void DRAW_Wheel(int right, int down);
+void DRAW_KeyDown(int KeyCode, int Shift);
+void DRAW_KeyPress(int KeyAscii);
+void DRAW_KeyUp(int KeyCode, int Shift);
+void DMY_MouseDown(int Button, int Shift, float X, float Y);
+void DMY_KeyPress(int KeyAscii);
+void Timer1_Timer();
+
+}  // namespace kiso::p_win

@@ -1,0 +1,14 @@
+// The read-back of an expanded view: the picture pixel of each block is the one at the middle column and the first row
+// of it.
+#pragma once
+
+#include "frame/usr_def.h"
+
+namespace kiso {
+
+// w x h picture pixels of dest from x, y on, from the blocks of rate x rate pixels of source, from its top left.
+void read_back(Surface& dest, int x, int y, int w, int h, const Surface& source, int rate);
+// The same, column by column, as the platform's stretch gives it.
+void read_back_by_columns(Surface& dest, int x, int y, int w, int h, const Surface& source, int rate);
+
+}  // namespace kiso
