@@ -1,0 +1,54 @@
+// What a change of tool shows: marks, cursor, floating surfaces, parameter windows, status text.
+#include "frame/cmd_win.h"
+#include "frame/col_win.h"
+#include "frame/p_win.h"
+#include "frame/usr_sub.h"
+#include "tools/tool_table.h"
+
+namespace kiso {
+
+namespace {
+
+struct CursorWord {
+  const char* word;
+  const char* sheet;
+};
+constexpr CursorWord CURSORS[] = {
+    {"LUPE", "LUPE_ICO"}, {"SPOIT", "SPOIT_ICO"}, {"PAINT", "Paint_ICO"}, {"WAIT", "WAIT_ICO"}};
+
+template <class T>
+void point_with(T& shown, const char* sheet) {
+  if (sheet) shown.MouseIcon(sheet);
+  shown.MousePointer(sheet ? 99 : 1);
+}
+
+void mark_selected_colour() {
+  Shape& selected = COL_TARGET == 0 ? COL_WIN.TAR_SEL : COL_WIN.DES_SEL;
+  Shape& other = COL_TARGET == 0 ? COL_WIN.DES_SEL : COL_WIN.TAR_SEL;
+  selected.FillColor(QBColor(CUR_TOOL == 1000 ? 12 : 11));
+  other.FillColor(0x8000000F);
+}
+
+}  // namespace
+
+void SET_CURSOR(const std::string& word) {
+  const char* sheet = nullptr;
+  for (const CursorWord& cursor : CURSORS) {
+    if (word == cursor.word) sheet = cursor.sheet;
+  }
+  point_with(DRAW, sheet);
+  point_with(CMD_WIN, sheet);
+  point_with(COL_WIN, sheet);
+}
+
+void TOOL_CHANGED() {
+  mark_selected_colour();
+  const ToolRow& tool = tool_row(CUR_TOOL);
+  SET_CURSOR(tool.cursor);
+  WORK.Visible(CUR_TOOL == 20001 || CUR_TOOL == 11101 || CUR_TOOL == 19);
+  WORD.Visible(CUR_TOOL == 27001);
+  PARAM_WIN_CLOSE();
+  if (STATUS_ON == 1) INF_CMD.Caption(tool.inf_cmd);
+}
+
+}  // namespace kiso
