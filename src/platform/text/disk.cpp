@@ -132,10 +132,7 @@ void write_whole(const std::string& path, const std::string& bytes) {
   ::unlink(temporary.c_str());  // left behind by a process of this number that did not come to its end
   Descriptor file(temporary, O_WRONLY | O_CREAT | O_EXCL, 0666);
   try {
-    struct stat old;
-    if (stat(target.c_str(), &old) == 0 && fchmod(file.fd, old.st_mode & 07777) != 0) {
-      // A file system without permissions refuses; the bytes count.
-    }
+    take_permissions(temporary, target);
     write_all(file.fd, bytes, target);
     check(fsync(file.fd) == 0, target);
     check(close(file.release()) == 0, target);
@@ -144,6 +141,13 @@ void write_whole(const std::string& path, const std::string& bytes) {
     ::unlink(temporary.c_str());
     throw;
   }
+}
+
+void take_permissions(const std::string& path, const std::string& old) {
+  struct stat info;
+  if (stat(old.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) return;
+  check(may(old, W_OK), old);
+  if (chmod(path.c_str(), info.st_mode & 07777) != 0) return;  // a file system without permissions; the bytes count
 }
 
 void remove(const std::string& path) {

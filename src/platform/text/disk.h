@@ -21,6 +21,9 @@ void check_writable(const std::string& path);
 // link stays one and the file that it leads to is replaced.
 void write_whole(const std::string& path, const std::string& bytes);
 
+// Gives a file the permissions of an old one, if there is one; it must be one that may be written.
+void take_permissions(const std::string& path, const std::string& old);
+
 void remove(const std::string& path);
 
 enum class Existing { kept, replaced };  // kept: a file of the new name is error 58

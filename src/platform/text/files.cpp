@@ -58,6 +58,8 @@ void Close(int number) {
   if (f && f->mode == Mode::Output) disk::write_whole(f->path, encode(f->lines, f->encoding));
 }
 
+NumberScope::~NumberScope() { file(number).reset(); }
+
 Encoding encoding_of(const std::string& path) {
   try {
     return encoding_of_bytes(disk::read_whole(path));
@@ -74,6 +76,9 @@ void FileCopy(const std::string& from, const std::string& to) { disk::write_whol
 
 void Name(const std::string& from, const std::string& to) { disk::rename(from, to, disk::Existing::kept); }
 
-void Replace(const std::string& from, const std::string& to) { disk::rename(from, to, disk::Existing::replaced); }
+void Replace(const std::string& from, const std::string& to) {
+  disk::take_permissions(from, to);
+  disk::rename(from, to, disk::Existing::replaced);
+}
 
 }  // namespace text

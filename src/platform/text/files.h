@@ -28,6 +28,16 @@ void Print(int number, const std::string& line);
 // Ends the use of a number; one that is not open is no error. The number is free even if writing fails.
 void Close(int number);
 
+// Frees a number at the end of the scope. What was printed to it and not closed by then is dropped, so that a run that
+// an error ends leaves no half file.
+struct NumberScope {
+  explicit NumberScope(int number_) : number(number_) {}
+  ~NumberScope();
+  NumberScope(const NumberScope&) = delete;
+  NumberScope& operator=(const NumberScope&) = delete;
+  const int number;
+};
+
 // The encoding of the file at a path, to write the one that replaces it; UTF-8 if it can not be read.
 Encoding encoding_of(const std::string& path);
 
@@ -43,7 +53,8 @@ void FileCopy(const std::string& from, const std::string& to);
 // Gives a file a name that no other has.
 void Name(const std::string& from, const std::string& to);
 
-// Gives a file the name of another one, which it replaces in one step, so that there is always a file of that name.
+// Gives a file the name and the permissions of another one, which it replaces in one step, so that there is always a
+// file of that name. A file that may not be written may not be replaced either.
 void Replace(const std::string& from, const std::string& to);
 
 }  // namespace text
