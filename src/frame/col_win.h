@@ -15,7 +15,8 @@ struct ColWin : Window {
   Shape DES_SEL{*this, "DES_SEL"};
   PictureBox COL_RGB{*this, "COL_RGB"};  // the three level bars
   CommandButton Command1{*this, "Command1"}, Command2{*this, "Command2"}, Command3{*this, "Command3"};
-  ControlArray<PictureBox, 3> CSEL_BASE{*this, "CSEL_BASE"};
+  PictureBox CSEL_FRAME{*this, "CSEL_FRAME"};                 // where the panes lie
+  ControlArray<PictureBox, 3> CSEL_BASE{*this, "CSEL_BASE"};  // the panes Rain, R/H, Dic
   // pane Rain
   ControlArray<ImageBox, 8> C_BUT{*this, "C_BUT"};
   ControlArray<ImageBox, 7> P_BUT{*this, "P_BUT"}, PP_BUT{*this, "PP_BUT"}, M_BUT{*this, "M_BUT"},

@@ -1,0 +1,143 @@
+// The colour window: its top, its panes and the buttons that exchange them, its place on the screen.
+#include "frame/col_win.h"
+
+#include "colour/col_win_rules.h"
+#include "frame/usr_sub.h"
+
+namespace kiso {
+
+namespace col_win {
+
+void place(Control& control, double left, double top, double width, double height, Control* in) {
+  control.design(left * TWIPS, top * TWIPS, width * TWIPS, height * TWIPS, in);
+}
+
+void PICK_EXIT() {
+  if (CUR_TOOL != 1000) return;
+  CUR_TOOL = PREV_TOOL;
+  TOOL_CHANGED();
+}
+
+namespace {
+
+// A click on a colour box selects that colour; on the selected one it enters or leaves the pick tool.
+void colour_box_click(int16_t target) {
+  if (COL_TARGET != target) {
+    COL_TARGET = target;
+    COL_LOAD_WORK();
+    COL_DRAW_BARS(CUR_R, CUR_G, CUR_B);
+    if (CUR_TOOL == 1000) CUR_TOOL = PREV_TOOL;
+    if (COL_PANE == 1) show_bars();
+  } else if (CUR_TOOL == 1000) {
+    CUR_TOOL = PREV_TOOL;
+  } else {
+    PREV_TOOL = CUR_TOOL;
+    CUR_TOOL = 1000;
+  }
+  TOOL_CHANGED();
+}
+void TAR_COL_Click() { colour_box_click(0); }
+void DES_COL_Click() { colour_box_click(1); }
+
+void open_pane(int16_t pane) {
+  if (COL_PANE == pane) return;
+  COL_WIN.CSEL_BASE(COL_PANE).Visible(false);
+  COL_PANE = pane;
+  // The bars are not kept up to date while they are closed.
+  if (pane == 1) {
+    COL_LOAD_WORK();
+    show_bars();
+  }
+  COL_WIN.CSEL_BASE(pane).Visible(true);
+  COL_WIN.CSEL_BASE(pane).ToFront();
+}
+void Command1_Click() { open_pane(0); }
+void Command2_Click() { open_pane(1); }
+void Command3_Click() { open_pane(2); }
+
+void Form_Load() {
+  COL_WIN.Left(COL_LEFT);
+  COL_WIN.Top(COL_TOP);
+  COL_WIN.Caption(APP_TITLE);
+  for (int i = 0; i < COL_WIN.CSEL_BASE.count; ++i) {
+    COL_WIN.CSEL_BASE(i).Visible(false);
+    COL_WIN.CSEL_BASE(i).Move(0, 0);
+  }
+  DICT_CUR = 0;
+  DICT_WRITE = 0;
+  COL_WIN.CSEL_BASE(COL_PANE).ToFront();
+  COL_WIN.CSEL_BASE(COL_PANE).Visible(true);
+  COL_HSV_LOCK = 0;
+  COL_RGB_LOCK = 0;
+  // The word that is not the mode lies under the one that is.
+  COL_WIN.Command4.Move(550, 1440, 905, 270);
+  COL_WIN.Label7.Move(550, 1440, 905, 270);
+}
+
+void Form_QueryUnload(int& /*Cancel*/) {
+  COL_TOP = to_int32(COL_WIN.Top());
+  COL_LEFT = to_int32(COL_WIN.Left());
+}
+
+void design_top() {
+  const auto colour_box = [](PictureBox& box, Shape& mark, double left, Colour colour, const char* tip) {
+    box.inside = Scale::twips;
+    place(box, left, 4, 46, 26);
+    place(mark, 0, 0, 46, 26, &box);
+    box.BackColor(colour);
+    box.ToolTip(tip);
+  };
+  colour_box(COL_WIN.TAR_COL, COL_WIN.TAR_SEL, 4, RGB(TAR_R, TAR_G, TAR_B), "ターゲット色 (もう一度押すとスポイト)");
+  colour_box(COL_WIN.DES_COL, COL_WIN.DES_SEL, 54, RGB(DES_R, DES_G, DES_B),
+             "デスティネーション色 (もう一度押すとスポイト)");
+  (COL_TARGET == 0 ? COL_WIN.TAR_SEL : COL_WIN.DES_SEL).FillColor(QBColor(11));
+
+  COL_WIN.COL_RGB.border = true;
+  place(COL_WIN.COL_RGB, 5, 35, 94, 12);
+  COL_WIN.COL_RGB.ToolTip("赤・緑・青の強さ");
+
+  const auto pane_button = [](CommandButton& button, double left, const char* caption, const char* tip) {
+    place(button, left, 51, 32, 20);
+    button.Caption(caption);
+    button.ToolTip(tip);
+  };
+  pane_button(COL_WIN.Command1, 4, "Rain", "純色のボタン");
+  pane_button(COL_WIN.Command2, 36, "R/H", "RGBとHSVのバー");
+  pane_button(COL_WIN.Command3, 68, "Dic", "色の辞書");
+}
+
+void design() {
+  COL_WIN.design(0, 0, 104, 206);
+  design_top();
+  COL_WIN.CSEL_FRAME.inside = Scale::twips;
+  place(COL_WIN.CSEL_FRAME, 0, 74, 104, 130);
+  for (int i = 0; i < COL_WIN.CSEL_BASE.count; ++i) {
+    PictureBox& pane = COL_WIN.CSEL_BASE(i);
+    pane.inside = Scale::twips;
+    place(pane, 0, 0, 104, 130, &COL_WIN.CSEL_FRAME);
+  }
+  design_rain();
+  design_bars();
+  design_dictionary();
+}
+
+}  // namespace
+}  // namespace col_win
+
+ColWin::ColWin() : Window("COL_WIN", Border::tool, Scale::twips, col_win::design) {
+  using namespace col_win;  // NOLINT(google-build-using-namespace)
+  Form_Load = col_win::Form_Load;
+  Form_QueryUnload = col_win::Form_QueryUnload;
+  TAR_COL.Click = TAR_COL_Click;
+  DES_COL.Click = DES_COL_Click;
+  Command1.Click = Command1_Click;
+  Command2.Click = Command2_Click;
+  Command3.Click = Command3_Click;
+  wire_rain(*this);
+  wire_bars(*this);
+  wire_dictionary(*this);
+}
+
+ColWin COL_WIN;
+
+}  // namespace kiso
