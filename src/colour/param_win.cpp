@@ -1,0 +1,203 @@
+#include "frame/param_win.h"
+
+#include <algorithm>
+
+#include "frame/cmd_win.h"
+#include "frame/p_win.h"
+#include "frame/usr_sub.h"
+#include "platform/text/text.h"
+
+namespace kiso {
+
+namespace param_win {
+namespace {
+
+enum Which : int { FUZZY, SPRAY, HSET, DEEP };
+
+struct WindowRow {
+  Window* window;
+  int16_t* on;
+  const char* caption;  // behind APP_TITLE
+  Frame* frame;
+  const char* frame_caption;
+  int rows;                 // of bars
+  CommandButton* Command3;  // sets the defaults; DEEP_WIN has none
+};
+constexpr WindowRow WINDOWS[] = {
+    {&FUZZY_WIN, &FUZZY_ON, " Fuzzy設定", &FUZZY_WIN.Frame1, "似た色の条件", 3, &FUZZY_WIN.Command3},
+    {&SPRAY_WIN, &SPRAY_ON, " Spray設定", &SPRAY_WIN.Frame1, "強さ", 1, &SPRAY_WIN.Command3},
+    {&HSET_WIN, &HSET_ON, " HSET 設定", &HSET_WIN.Frame1, "Vの変化量 (%)", 1, &HSET_WIN.Command3},
+    // The word Fuzzy is what this window has always shown.
+    {&DEEP_WIN, &DEEP_ON, " Fuzzy設定", &DEEP_WIN.Frame1, "濃度バランス", 1, nullptr},
+};
+
+// The tools of each window. One that only opens it does not keep it open at the next change of tool.
+constexpr struct ToolWindow {
+  int16_t tool;
+  Which window;
+  bool keeps_open;
+} TOOL_WINDOWS[] = {
+    {21, SPRAY, true}, {22, SPRAY, true}, {23, FUZZY, true}, {24, FUZZY, true}, {26, FUZZY, true},    {32, HSET, true},
+    {33, HSET, true},  {34, SPRAY, true}, {35, SPRAY, true}, {36, DEEP, true},  {11006, HSET, false},
+};
+
+struct BarRow {
+  Which window;
+  ScrollBar* bar;
+  Label* value;  // shows the number; null: nothing does
+  int16_t* number;
+  int min, max, start, large;  // start: the default, too
+  const char* name;
+  void (*change)();
+};
+template <int ROW>
+void bar_changed();
+constexpr BarRow BARS[] = {
+    {FUZZY, &FUZZY_WIN.H_BAR, &FUZZY_WIN.H_VAL, &FUZZY_H, 0, 180, 10, 16, "色相の差", bar_changed<0>},
+    {FUZZY, &FUZZY_WIN.S_BAR, &FUZZY_WIN.S_VAL, &FUZZY_S, 0, 255, 10, 16, "彩度の差", bar_changed<1>},
+    {FUZZY, &FUZZY_WIN.V_BAR, &FUZZY_WIN.V_VAL, &FUZZY_V, 0, 255, 10, 16, "明度の差", bar_changed<2>},
+    // Backwards: to the right the timer's interval gets shorter, so the spray gets stronger.
+    {SPRAY, &SPRAY_WIN.I_BAR, nullptr, &SPRAY_MS, 1000, 1, 3, 16, "スプレーの強さ", bar_changed<3>},
+    {HSET, &HSET_WIN.H_BAR, &HSET_WIN.H_VAL, &HSET_V, 0, 200, 50, 10, "明度の変化量", bar_changed<4>},
+    {DEEP, &DEEP_WIN.DEEP_BAR, nullptr, &DEEP_BAL, 0, 100, 50, 1, "濃度バランス", bar_changed<5>},
+};
+
+// What stands beside the bars, in a row of its window: pixels from the frame's left edge.
+constexpr struct LabelRow {
+  Which window;
+  Label* label;
+  const char* text;
+  int row, left, width;
+} LABELS[] = {
+    {FUZZY, &FUZZY_WIN.Label1, "H", 0, 10, 32},   {FUZZY, &FUZZY_WIN.Label4, "±", 0, 166, 14},
+    {FUZZY, &FUZZY_WIN.Label2, "S", 1, 10, 32},   {FUZZY, &FUZZY_WIN.Label5, "±", 1, 166, 14},
+    {FUZZY, &FUZZY_WIN.Label3, "V", 2, 10, 32},   {FUZZY, &FUZZY_WIN.Label6, "±", 2, 166, 14},
+    {SPRAY, &SPRAY_WIN.Label1, "弱", 0, 10, 32},  {SPRAY, &SPRAY_WIN.Label2, "強", 0, 166, 32},
+    {HSET, &HSET_WIN.Label1, "V", 0, 10, 12},     {HSET, &HSET_WIN.Label2, "暗", 0, 24, 18},
+    {HSET, &HSET_WIN.Label3, "明", 0, 166, 16},   {DEEP, &DEEP_WIN.Label1, "Base", 0, 10, 32},
+    {DEEP, &DEEP_WIN.Label2, "Draw", 0, 166, 40},
+};
+
+void take_value(const BarRow& row) {
+  if (row.value) row.value->Caption(text::Str(row.bar->Value()));
+  *row.number = to_int16(row.bar->Value());
+}
+template <int ROW>
+void bar_changed() {
+  take_value(BARS[ROW]);
+}
+
+void set_defaults(Which which) {
+  for (const BarRow& row : BARS) {
+    if (row.window != which) continue;
+    row.bar->Value(row.start);
+    *row.number = to_int16(row.start);
+  }
+}
+
+// On top of the palette, one pixel up and left of it.
+void load(Which which) {
+  const WindowRow& form = WINDOWS[which];
+  *form.on = 1;
+  form.window->Caption(APP_TITLE + form.caption);
+  form.window->Move(std::max(CMD_WIN.Left() - TWIPS, 0.0), std::max(CMD_WIN.Top() - TWIPS, 0.0));
+  for (const BarRow& row : BARS) {
+    if (row.window == which) row.bar->Value(*row.number);
+  }
+}
+
+constexpr int ROW_HEIGHT = 24, FRAME_LEFT = 8, FRAME_WIDTH = 216;
+
+void design(Which which) {
+  const WindowRow& form = WINDOWS[which];
+  const int frame_height = 28 + ROW_HEIGHT * form.rows;
+  form.window->design(0, 0, FRAME_WIDTH + 2 * FRAME_LEFT, frame_height + (form.Command3 ? 44 : 16));
+  form.frame->design(FRAME_LEFT, 6, FRAME_WIDTH, frame_height);
+  form.frame->Caption(form.frame_caption);
+  int top = 20;
+  for (const BarRow& row : BARS) {
+    if (row.window != which) continue;
+    row.bar->design(44, top, 118, 18, form.frame);
+    row.bar->range(row.min, row.max, row.start, 1, row.large);
+    row.bar->accessible_name = row.name;
+    if (row.value) {
+      row.value->design(180, top, 28, 18, form.frame);
+      row.value->align = Label::Align::right;
+      row.value->Caption(text::Str(row.start));
+    }
+    top += ROW_HEIGHT;
+  }
+  for (const LabelRow& row : LABELS) {
+    if (row.window != which) continue;
+    row.label->design(row.left, 20 + ROW_HEIGHT * row.row, row.width, 18, form.frame);
+    row.label->Caption(row.text);
+  }
+  if (!form.Command3) return;
+  form.Command3->design(FRAME_LEFT + FRAME_WIDTH - 72, frame_height + 12, 72, 24);
+  form.Command3->Caption("Default");
+  form.Command3->ToolTip("はじめの値に戻す");
+}
+void wire(Which which, void (*load_event)(), void (*unload_event)(int&), void (*default_click)()) {
+  const WindowRow& form = WINDOWS[which];
+  form.window->Form_Load = load_event;
+  form.window->Form_Unload = unload_event;
+  if (form.Command3) form.Command3->Click = default_click;
+  for (const BarRow& row : BARS) {
+    if (row.window == which) row.bar->Change = row.change;
+  }
+}
+template <Which W>
+void wire() {
+  wire(
+      W, [] { load(W); }, [](int& /*Cancel*/) { *WINDOWS[W].on = 0; }, [] { set_defaults(W); });
+}
+
+bool keeps_open(Which window, int tool) {
+  return std::ranges::any_of(TOOL_WINDOWS,
+                             [&](const ToolWindow& t) { return t.window == window && t.tool == tool && t.keeps_open; });
+}
+
+}  // namespace
+}  // namespace param_win
+
+using namespace param_win;  // NOLINT(google-build-using-namespace)
+
+FuzzyWin::FuzzyWin() : Window("FUZZY_WIN", Border::tool, Scale::pixels, [] { param_win::design(FUZZY); }) {
+  wire<FUZZY>();
+}
+SprayWin::SprayWin() : Window("SPRAY_WIN", Border::tool, Scale::pixels, [] { param_win::design(SPRAY); }) {
+  wire<SPRAY>();
+}
+HsetWin::HsetWin() : Window("HSET_WIN", Border::tool, Scale::pixels, [] { param_win::design(HSET); }) { wire<HSET>(); }
+DeepWin::DeepWin() : Window("DEEP_WIN", Border::tool, Scale::pixels, [] { param_win::design(DEEP); }) { wire<DEEP>(); }
+
+FuzzyWin FUZZY_WIN;
+SprayWin SPRAY_WIN;
+HsetWin HSET_WIN;
+DeepWin DEEP_WIN;
+
+void PARAM_WIN_SHOW(int tool) {
+  for (const ToolWindow& t : TOOL_WINDOWS) {
+    if (t.tool == tool) WINDOWS[t.window].window->Show(&P_WIN);
+  }
+}
+
+void PARAM_WIN_CLOSE() {
+  for (const Which which : {SPRAY, FUZZY, HSET, DEEP}) {
+    if (!keeps_open(which, CUR_TOOL)) WINDOWS[which].window->Unload();
+  }
+}
+
+void PARAM_WIN_HIDE() {
+  for (const WindowRow& form : WINDOWS) {
+    if (*form.on == 1) form.window->Hide();
+  }
+}
+
+void PARAM_WIN_SHOW_AGAIN() {
+  for (const WindowRow& form : WINDOWS) {
+    if (*form.on == 1) form.window->Show(&P_WIN);
+  }
+}
+
+}  // namespace kiso
