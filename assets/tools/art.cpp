@@ -29,6 +29,16 @@ Art turned_right(const Art& art) {
   return out;
 }
 
+Art doubled(const Art& art) {
+  Art out;
+  for (const std::string& row : art) {
+    std::string wide;
+    for (char letter : row) wide.append(2, letter);
+    out.insert(out.end(), 2, wide);
+  }
+  return out;
+}
+
 Art mirrored(Art art) {
   for (std::string& row : art) std::reverse(row.begin(), row.end());
   return art;
@@ -65,6 +75,11 @@ class Reader {
     std::istringstream words(line);
     const std::vector<std::string> word{std::istream_iterator<std::string>(words), {}};
     if (word[0] == "put" && word.size() >= 4) return place(picture(word, 1, 4), number(word[2]), number(word[3]));
+    if (word[0] == "at" && word.size() == 3) {
+      layer_x_ = number(word[1]);
+      layer_y_ = number(word[2]);
+      return;
+    }
     end_part();
     if (word[0] == "colour" && word.size() >= 3 && word[1].size() == 1)
       book_.colours[word[1][0]] = 0xFF000000 | static_cast<uint32_t>(number(word[2], 16));
@@ -100,7 +115,8 @@ class Reader {
     sheet.icons.push_back(icon);
   }
 
-  // The part named by word[name], with the changes told from word[options] on: turn 90|180|270, mirror, A=B.
+  // The part named by word[name], with the changes told from word[options] on: turn 90|180|270, mirror, double,
+  // A=B (letter A becomes B).
   Art picture(const std::vector<std::string>& word, size_t name, size_t options) const {
     const auto found = book_.parts.find(word[name]);
     if (found == book_.parts.end()) fail("no part named " + word[name]);
@@ -108,6 +124,8 @@ class Reader {
     for (size_t i = options; i < word.size(); ++i) {
       if (word[i] == "mirror") {
         art = mirrored(art);
+      } else if (word[i] == "double") {
+        art = doubled(art);
       } else if (word[i] == "turn" && i + 1 < word.size()) {
         for (int n = number(word[++i]); n > 0; n -= 90) art = turned_right(art);
       } else if (word[i].size() == 3 && word[i][1] == '=') {
@@ -144,8 +162,9 @@ class Reader {
       for (char letter : row)
         if (letter != '.' && !book_.colours.contains(letter)) fail(std::string("no colour for the letter ") + letter);
     }
-    place(layer_, 0, 0);
+    place(layer_, layer_x_, layer_y_);
     layer_.clear();
+    layer_x_ = layer_y_ = 0;
   }
 
   void end_part() {
@@ -161,6 +180,7 @@ class Reader {
   int line_ = 0;
   std::string part_;  // the part being read, "" between parts
   Art canvas_, layer_;
+  int layer_x_ = 0, layer_y_ = 0;  // where the rows that follow go
 };
 
 }  // namespace
