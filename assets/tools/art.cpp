@@ -44,6 +44,18 @@ Art mirrored(Art art) {
   return art;
 }
 
+// Lays art over another picture at x, y; '.' leaves what is there. False if a letter would fall outside.
+bool lay(Art& under, const Art& art, int x, int y) {
+  for (size_t j = 0; j < art.size(); ++j)
+    for (size_t i = 0; i < art[j].size(); ++i) {
+      if (art[j][i] == '.') continue;
+      const size_t to_x = i + static_cast<size_t>(x), to_y = j + static_cast<size_t>(y);
+      if (to_y >= under.size() || to_x >= under[to_y].size()) return false;
+      under[to_y][to_x] = art[j][i];
+    }
+  return true;
+}
+
 class Reader {
  public:
   Reader(std::string file, ArtBook& book) : file_(std::move(file)), book_(book) {}
@@ -93,7 +105,6 @@ class Reader {
       fail("not understood: " + line);
   }
 
-  // sheet NAME KIND CELL [hot X Y]
   void begin_sheet(const std::vector<std::string>& word) {
     const auto kind = std::find_if(std::begin(SHEET_KINDS), std::end(SHEET_KINDS),
                                    [&](const auto& row) { return row.kind == word[2]; });
@@ -102,6 +113,8 @@ class Reader {
     if (word.size() == 7 && word[4] == "hot") {
       sheet.hot_x = number(word[5]);
       sheet.hot_y = number(word[6]);
+    } else if (word.size() != 4) {
+      fail("a sheet is NAME KIND SIDE [hot X Y]");
     }
     book_.sheets.push_back(sheet);
   }
@@ -129,12 +142,17 @@ class Reader {
       } else if (word[i] == "turn" && i + 1 < word.size()) {
         for (int n = number(word[++i]); n > 0; n -= 90) art = turned_right(art);
       } else if (word[i].size() == 3 && word[i][1] == '=') {
+        check_letter(word[i][2]);
         for (std::string& row : art) std::replace(row.begin(), row.end(), word[i][0], word[i][2]);
       } else {
         fail("not understood: " + word[i]);
       }
     }
     return art;
+  }
+
+  void check_letter(char letter) const {
+    if (letter != '.' && !book_.colours.contains(letter)) fail(std::string("no colour for the letter ") + letter);
   }
 
   int number(const std::string& text, int base = 10) const {
@@ -159,8 +177,7 @@ class Reader {
     if (layer_.empty()) return;
     for (const std::string& row : layer_) {
       if (row.size() != layer_[0].size()) fail("rows of unequal length: " + row);
-      for (char letter : row)
-        if (letter != '.' && !book_.colours.contains(letter)) fail(std::string("no colour for the letter ") + letter);
+      for (char letter : row) check_letter(letter);
     }
     place(layer_, layer_x_, layer_y_);
     layer_.clear();
@@ -185,33 +202,4 @@ class Reader {
 
 }  // namespace
 
-bool lay(Art& under, const Art& art, int x, int y) {
-  for (size_t j = 0; j < art.size(); ++j)
-    for (size_t i = 0; i < art[j].size(); ++i) {
-      if (art[j][i] == '.') continue;
-      const size_t to_x = i + static_cast<size_t>(x), to_y = j + static_cast<size_t>(y);
-      if (to_y >= under.size() || to_x >= under[to_y].size()) return false;
-      under[to_y][to_x] = art[j][i];
-    }
-  return true;
-}
-
 void read_art(const std::string& file, ArtBook& book) { Reader(file, book).read(); }
-
-void write_bmp(const std::string& file, int width, int height, const uint32_t* pixels, bool alpha) {
-  const int bytes = alpha ? 4 : 3, pad = (4 - width * bytes % 4) % 4, size = (width * bytes + pad) * height;
-  std::string out = "BM";
-  const auto number = [&out](int value, int count) {
-    for (int i = 0; i < count; ++i) out += static_cast<char>(value >> 8 * i);
-  };
-  for (int value : {54 + size, 0, 54, 40, width, height}) number(value, 4);
-  for (int value : {1, 8 * bytes}) number(value, 2);
-  for (int value : {0, size, 2835, 2835, 0, 0}) number(value, 4);
-  for (int y = height - 1; y >= 0; --y) {
-    for (int x = 0; x < width; ++x) number(static_cast<int>(pixels[y * width + x]), bytes);
-    number(0, pad);
-  }
-  std::ofstream stream(file, std::ios::binary);
-  if (!stream.write(out.data(), static_cast<std::streamsize>(out.size())).flush())
-    throw std::runtime_error(file + ": can not be written");
-}

@@ -25,9 +25,3 @@ struct ArtBook {
 
 // Adds what the file says to the book. Throws std::runtime_error "FILE:LINE: what is wrong".
 void read_art(const std::string& file, ArtBook& book);
-
-// Lays art over another picture at x, y; '.' leaves what is there. False if a letter would fall outside.
-bool lay(Art& under, const Art& art, int x, int y);
-
-// A bitmap file of 32 bits a pixel; 24 if alpha is not wanted. Throws std::runtime_error when it can not be written.
-void write_bmp(const std::string& file, int width, int height, const uint32_t* pixels, bool alpha);

@@ -1,5 +1,6 @@
 // make_sheets OUT_DIR FILE...: turns the text art into the sheets, OUT_DIR/NAME.bmp to look at and
 // OUT_DIR/sheets_data.cpp, which the program is built with.
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <fstream>
@@ -71,6 +72,23 @@ Picture make_sheet(const ArtSheet& sheet, const std::map<char, uint32_t>& colour
   return out;
 }
 
+// 32 bits a pixel, bottom row first.
+void write_bmp(const std::string& file, const Picture& picture) {
+  const int size = picture.width * picture.height * 4;
+  std::string out = "BM";
+  const auto number = [&out](uint32_t value, int bytes) {
+    for (int i = 0; i < bytes; ++i) out += static_cast<char>(value >> 8 * i);
+  };
+  for (int value : {54 + size, 0, 54, 40, picture.width, picture.height}) number(static_cast<uint32_t>(value), 4);
+  for (int value : {1, 32}) number(static_cast<uint32_t>(value), 2);
+  for (int value : {0, size, 2835, 2835, 0, 0}) number(static_cast<uint32_t>(value), 4);
+  for (int y = picture.height - 1; y >= 0; --y)
+    for (int x = 0; x < picture.width; ++x) number(picture.pixels[static_cast<size_t>(y * picture.width + x)], 4);
+  std::ofstream stream(file, std::ios::binary);
+  if (!stream.write(out.data(), static_cast<std::streamsize>(out.size())).flush())
+    throw std::runtime_error(file + ": can not be written");
+}
+
 void write_data(std::ofstream& data, const ArtSheet& sheet, const Picture& picture) {
   data << "const uint32_t " << sheet.name << "[] = {";
   char number[16];
@@ -87,7 +105,7 @@ void make(const std::string& out_dir, const ArtBook& book) {
   data << "#include \"platform/forms/sheets.h\"\n\nnamespace forms {\nnamespace {\n";
   for (const ArtSheet& sheet : book.sheets) {
     const Picture picture = make_sheet(sheet, book.colours);
-    write_bmp(out_dir + "/" + sheet.name + ".bmp", picture.width, picture.height, picture.pixels.data(), true);
+    write_bmp(out_dir + "/" + sheet.name + ".bmp", picture);
     write_data(data, sheet, picture);
     table += "{\"" + sheet.name + "\", " + std::to_string(picture.width) + ", " + std::to_string(picture.height) +
              ", " + sheet.name + ", " + std::to_string(sheet.hot_x) + ", " + std::to_string(sheet.hot_y) + "},\n";

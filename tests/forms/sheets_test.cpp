@@ -132,6 +132,9 @@ TEST(Sheets, CursorsShowOnAnyPicture) {
     ASSERT_EQ(in.width, 32) << name;
     ASSERT_EQ(in.height, 32) << name;
     EXPECT_TRUE(in.hot_x >= 0 && in.hot_x < 32 && in.hot_y >= 0 && in.hot_y < 32) << name;
+    // the hot spot lies on the figure, not in the air beside it
+    const uint32_t hot = pixel(in, in.hot_x, in.hot_y);
+    EXPECT_TRUE(hot >> 24 == 0xFF && hot != 0xFFFFFFFF) << name;
     // what lies beside a transparent pixel is white, so the figure never touches the picture
     for (int y = 0; y < 32; ++y)
       for (int x = 0; x + 1 < 32; ++x) {
