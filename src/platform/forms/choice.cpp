@@ -22,7 +22,7 @@ void TextBox::back_to_design() {
   Control::back_to_design();
   text_.clear();
   font_ = Font{};
-  multi_line = false;
+  multi_line = read_only = false;
 }
 
 const std::string& ListControl::List(int i) const {

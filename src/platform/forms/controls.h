@@ -213,7 +213,7 @@ class TextBox : public Control {
   void Text(std::string v);
   const Font& font() const { return font_; }
   void font(Font f);
-  bool multi_line = false;  // for the design
+  bool multi_line = false, read_only = false;  // for the design
   Event<> Change;
   Event<int> KeyPress;
   Event<int&> Validate;  // the focus is to leave; set to 1 keeps it
