@@ -31,6 +31,7 @@ void UNDO_SWAP();    // the picture and the snapshot change places
 
 // --- tools
 void TOOL_CHANGED();                       // after CUR_TOOL has been set from a window
+const char* TOOL_STATUS(int tool);         // the text that the status line shows for that tool
 void SET_CURSOR(const std::string& word);  // "LUPE", "SPOIT", "PAINT", "WAIT"; any other word is the arrow
 
 // --- palette

@@ -41,14 +41,15 @@ void SET_CURSOR(const std::string& word) {
   point_with(COL_WIN, sheet);
 }
 
+const char* TOOL_STATUS(int tool) { return tool_row(tool).inf_cmd; }
+
 void TOOL_CHANGED() {
   mark_selected_colour();
-  const ToolRow& tool = tool_row(CUR_TOOL);
-  SET_CURSOR(tool.cursor);
+  SET_CURSOR(tool_row(CUR_TOOL).cursor);
   WORK.Visible(CUR_TOOL == 20001 || CUR_TOOL == 11101 || CUR_TOOL == 19);
   WORD.Visible(CUR_TOOL == 27001);
   PARAM_WIN_CLOSE();
-  if (STATUS_ON == 1) INF_CMD.Caption(tool.inf_cmd);
+  if (STATUS_ON == 1) INF_CMD.Caption(TOOL_STATUS(CUR_TOOL));
 }
 
 }  // namespace kiso
