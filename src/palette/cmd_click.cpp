@@ -1,7 +1,10 @@
 #include "palette/cmd_click.h"
 
 #include "frame/p_win.h"
+#include "frame/state_families.h"
 #include "frame/usr_sub.h"
+#include "palette/about_win.h"
+#include "palette/help_win.h"
 #include "platform/text/text.h"
 
 namespace kiso {
@@ -39,6 +42,10 @@ int16_t tool_of(const PalButton& button) {
 void choose(int16_t tool) {
   CUR_TOOL = tool;
   TOOL_CHANGED();
+}
+
+void open_parameters(const PalButton& button) {
+  if (CMD_WIN.BTN_RIGHT == 1 && button.right != Param::none) PARAM_WIN_SHOW(button.tool);
 }
 
 // The first panel of the expansion palette, with its group button.
@@ -92,6 +99,7 @@ void CMD_B_Click(int Index) {
     tool = 0;
   }
   choose(tool);
+  open_parameters(button);
 }
 
 void EDIT_B_Click(int Index) {
@@ -105,15 +113,21 @@ void FILE_B_Click(int Index) { press_while(Group::FILE_B, Index, nothing); }
 void EFCT_B_Click(int Index) { press_while(Group::EFCT_B, Index, nothing); }
 
 void SYS_B_Click(int Index) {
-  press_while(Group::SYS_B, Index, Index == 0 ? [] { P_WIN.Unload(); } : nothing);
+  constexpr void (*COMMANDS[])() = {[] { P_WIN.Unload(); }, ABOUT_SHOW, nothing, nothing, nothing};
+  press_while(Group::SYS_B, Index, COMMANDS[Index]);
 }
 
-void OPT_W_B_Click(int Index) { press_while(Group::OPT_W_B, Index, nothing); }
+void OPT_W_B_Click(int Index) {
+  constexpr void (*COMMANDS[])() = {nothing, HELP_SHOW, nothing};
+  press_while(Group::OPT_W_B, Index, COMMANDS[Index]);
+}
 
 void EXP_M1_Click(int Index) {
+  const PalButton& button = row_of(Group::EXP_M1, Index);
   PAL_SET_PRESSED(Group::EXP_M1, Index);
-  EXP_TOOL = tool_of(row_of(Group::EXP_M1, Index));
+  EXP_TOOL = tool_of(button);
   choose(EXP_TOOL);
+  open_parameters(button);
 }
 
 void EXP_M2_Click(int Index) {
@@ -162,6 +176,7 @@ void PEN_SZ_SB_Change() {
 
 void UNDO_Click() {
   if (UNDO_READY != 1) return;
+  fall_back(BY_UNDO);
   RB.Refresh();
   if (STROKE_STATE == 1) {
     DROP_STROKE();

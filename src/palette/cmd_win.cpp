@@ -24,7 +24,7 @@ void design_buttons() {
     const int top = box ? 0 : p.top;
     ImageBox& button = group_of(b.group).button(b.index);
     button.design(left + b.column * CELL, top + b.row * CELL, CELL, CELL, box);
-    button.accessible_name = b.name;
+    button.accessible_name = name_of(b);
     button.ToolTip(tool_tip(b));
     show_button(b.group, b.index, false);
   }

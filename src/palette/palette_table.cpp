@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "frame/usr_sub.h"
+#include "platform/text/text.h"
+
 namespace kiso {
 
 namespace {
@@ -25,46 +28,46 @@ constexpr PalButton PALETTE[] = {
     {EXP_B, 1, P::EXP_B_BASE, 0, 1, NO_TOOL, none, "Effect", "効果"},
     {EXP_B, 2, P::EXP_B_BASE, 0, 2, NO_TOOL, none, "Expand", "拡大"},
 
-    {CMD_B, 0, P::ROOT_M0, 0, 0, 1, none, "Pset", "点"},
-    {CMD_B, 1, P::ROOT_M0, 0, 1, 2, none, "FreeLine", "自由線"},
-    {CMD_B, 2, P::ROOT_M0, 0, 2, 3, none, "Line", "直線"},
-    {CMD_B, 3, P::ROOT_M0, 0, 3, 4, none, "Box", "四角"},
-    {CMD_B, 4, P::ROOT_M0, 1, 0, 5, none, "Boxfill", "四角塗り"},
-    {CMD_B, 5, P::ROOT_M0, 1, 1, 6, none, "Circle", "円"},
-    {CMD_B, 6, P::ROOT_M0, 1, 2, 7, none, "Circlefill", "円塗り"},
-    {CMD_B, 7, P::ROOT_M0, 2, 0, 8, none, "Paint A", "同じ色の範囲を塗る"},
-    {CMD_B, 8, P::ROOT_M0, 2, 1, 9, none, "Paint B", "境界の色まで塗る"},
-    {CMD_B, 9, P::ROOT_M0, 2, 2, 10, none, "Mask pen", "マスクペン"},
-    {CMD_B, 10, P::ROOT_M0, 2, 3, 11, none, "Reverse mask pen", "逆マスクペン"},
-    {CMD_B, 11, P::ROOT_M4, 0, 0, 20000, none, "Area copy", "領域コピー"},
-    {CMD_B, 12, P::ROOT_M4, 2, 0, 12, none, "Left side change", "左側の色交換"},
-    {CMD_B, 13, P::ROOT_M4, 2, 1, 13, none, "Right side change", "右側の色交換"},
-    {CMD_B, 14, P::ROOT_M4, 2, 2, 14, none, "Up side change", "上側の色交換"},
-    {CMD_B, 15, P::ROOT_M4, 2, 3, 15, none, "Down side change", "下側の色交換"},
-    {CMD_B, 16, P::ROOT_M4, 0, 1, 16, none, "Reverse", "反転"},
-    {CMD_B, 17, P::ROOT_M6, 0, 0, 17, none, "Change color", "色交換"},
-    {CMD_B, 18, P::ROOT_M4, 1, 0, 18, none, "Copy to Clipboard", "クリップボードへコピー"},
+    {CMD_B, 0, P::ROOT_M0, 0, 0, 1, none, nullptr, "点"},
+    {CMD_B, 1, P::ROOT_M0, 0, 1, 2, none, nullptr, "自由線"},
+    {CMD_B, 2, P::ROOT_M0, 0, 2, 3, none, nullptr, "直線"},
+    {CMD_B, 3, P::ROOT_M0, 0, 3, 4, none, nullptr, "四角"},
+    {CMD_B, 4, P::ROOT_M0, 1, 0, 5, none, nullptr, "四角塗り"},
+    {CMD_B, 5, P::ROOT_M0, 1, 1, 6, none, nullptr, "円"},
+    {CMD_B, 6, P::ROOT_M0, 1, 2, 7, none, nullptr, "円塗り"},
+    {CMD_B, 7, P::ROOT_M0, 2, 0, 8, none, nullptr, "同じ色の範囲を塗る"},
+    {CMD_B, 8, P::ROOT_M0, 2, 1, 9, none, nullptr, "境界の色まで塗る"},
+    {CMD_B, 9, P::ROOT_M0, 2, 2, 10, none, nullptr, "マスクペン"},
+    {CMD_B, 10, P::ROOT_M0, 2, 3, 11, none, nullptr, "逆マスクペン"},
+    {CMD_B, 11, P::ROOT_M4, 0, 0, 20000, none, nullptr, "領域コピー"},
+    {CMD_B, 12, P::ROOT_M4, 2, 0, 12, none, nullptr, "輪郭の左側を塗る"},
+    {CMD_B, 13, P::ROOT_M4, 2, 1, 13, none, nullptr, "輪郭の右側を塗る"},
+    {CMD_B, 14, P::ROOT_M4, 2, 2, 14, none, nullptr, "輪郭の上側を塗る"},
+    {CMD_B, 15, P::ROOT_M4, 2, 3, 15, none, nullptr, "輪郭の下側を塗る"},
+    {CMD_B, 16, P::ROOT_M4, 0, 1, 16, none, nullptr, "色の反転"},
+    {CMD_B, 17, P::ROOT_M6, 0, 0, 17, none, nullptr, "色の置き換え"},
+    {CMD_B, 18, P::ROOT_M4, 1, 0, 18, none, nullptr, "クリップボードへコピー"},
     {CMD_B, 19, P::ROOT_M4, 1, 1, NO_TOOL, none, "Copy from Clipboard", "クリップボードから貼り付け"},
     {CMD_B, 20, P::ROOT_M0, 1, 3, NO_TOOL, none, "Write word", "文字"},
-    {CMD_B, 21, P::ROOT_M4, 1, 2, 21, SPRAY_WIN, "Spray", "スプレー"},
-    {CMD_B, 22, P::ROOT_M4, 1, 3, 22, SPRAY_WIN, "Mask Spray", "マスクスプレー"},
-    {CMD_B, 23, P::ROOT_M4, 0, 3, 23, FUZZY_WIN, "Fuzzy Mask Pen", "似た色のマスクペン"},
-    {CMD_B, 24, P::ROOT_M6, 0, 1, 24, FUZZY_WIN, "Fuzzy Change Color", "似た色の交換"},
-    {CMD_B, 25, P::ROOT_M6, 1, 0, 25, none, "Reverse ChangeCol.", "違う色の交換"},
-    {CMD_B, 26, P::ROOT_M6, 1, 1, 26, FUZZY_WIN, "Fuz.Rev.Change Col.", "似ていない色の交換"},
-    {CMD_B, 27, P::ROOT_M4, 0, 2, 27, none, "Polygon", "多角形"},
-    {CMD_B, 28, P::ROOT_M6, 2, 0, 28, none, "Polygon Copy", "多角形コピー"},
-    {CMD_B, 29, P::ROOT_M6, 2, 1, 30, none, "Glass Mirror", "ガラス"},
-    {CMD_B, 30, P::ROOT_M6, 1, 2, 31, none, "Bezier Line", "ベジェ曲線"},
-    {CMD_B, 31, P::ROOT_M6, 2, 3, 32, HSET_WIN, "V Box", "明るさを変える四角"},
-    {CMD_B, 32, P::ROOT_M6, 2, 2, 33, HSET_WIN, "V Pen", "明るさを変えるペン"},
-    {CMD_B, 33, P::ROOT_M6, 0, 2, 34, SPRAY_WIN, "AirSpray", "エアスプレー"},
-    {CMD_B, 34, P::ROOT_M6, 0, 3, 35, SPRAY_WIN, "MaskAirSpray", "マスクエアスプレー"},
-    {CMD_B, 35, P::ROOT_M6, 1, 3, 36, DEEP_WIN, "Thru Pen", "透過ペン"},
+    {CMD_B, 21, P::ROOT_M4, 1, 2, 21, SPRAY_WIN, nullptr, "スプレー"},
+    {CMD_B, 22, P::ROOT_M4, 1, 3, 22, SPRAY_WIN, nullptr, "マスクスプレー"},
+    {CMD_B, 23, P::ROOT_M4, 0, 3, 23, FUZZY_WIN, nullptr, "似た色のマスクペン"},
+    {CMD_B, 24, P::ROOT_M6, 0, 1, 24, FUZZY_WIN, nullptr, "似た色の置き換え"},
+    {CMD_B, 25, P::ROOT_M6, 1, 0, 25, none, nullptr, "違う色の置き換え"},
+    {CMD_B, 26, P::ROOT_M6, 1, 1, 26, FUZZY_WIN, nullptr, "似ていない色の置き換え"},
+    {CMD_B, 27, P::ROOT_M4, 0, 2, 27, none, nullptr, "多角形"},
+    {CMD_B, 28, P::ROOT_M6, 2, 0, 28, none, nullptr, "多角形コピー"},
+    {CMD_B, 29, P::ROOT_M6, 2, 1, 30, none, nullptr, "ガラス模様"},
+    {CMD_B, 30, P::ROOT_M6, 1, 2, 31, none, nullptr, "ベジェ曲線"},
+    {CMD_B, 31, P::ROOT_M6, 2, 3, 32, HSET_WIN, nullptr, "明るさを変える四角"},
+    {CMD_B, 32, P::ROOT_M6, 2, 2, 33, HSET_WIN, nullptr, "明るさを変えるペン"},
+    {CMD_B, 33, P::ROOT_M6, 0, 2, 34, SPRAY_WIN, nullptr, "エアスプレー"},
+    {CMD_B, 34, P::ROOT_M6, 0, 3, 35, SPRAY_WIN, nullptr, "マスクエアスプレー"},
+    {CMD_B, 35, P::ROOT_M6, 1, 3, 36, DEEP_WIN, nullptr, "透過ペン"},
 
-    {EDIT_B, 0, P::ROOT_M1, 0, 1, 10002, none, "Expand to x2", "2倍に拡大"},
-    {EDIT_B, 1, P::ROOT_M1, 0, 2, 10004, none, "Expand to x4", "4倍に拡大"},
-    {EDIT_B, 2, P::ROOT_M1, 0, 3, 10008, none, "Expand to x8", "8倍に拡大"},
+    {EDIT_B, 0, P::ROOT_M1, 0, 1, 10002, none, nullptr, "2倍に拡大"},
+    {EDIT_B, 1, P::ROOT_M1, 0, 2, 10004, none, nullptr, "4倍に拡大"},
+    {EDIT_B, 2, P::ROOT_M1, 0, 3, 10008, none, nullptr, "8倍に拡大"},
 
     {FILE_B, 0, P::ROOT_M2, 0, 2, NO_TOOL, none, "Load", "ファイルを開く"},
     {FILE_B, 1, P::ROOT_M2, 1, 2, NO_TOOL, none, "Save", "ファイルに保存"},
@@ -88,31 +91,31 @@ constexpr PalButton PALETTE[] = {
     {EFCT_B, 4, P::ROOT_M5, 1, 0, NO_TOOL, none, "Merge", "画像合成"},
     {EFCT_B, 5, P::ROOT_M5, 1, 1, NO_TOOL, none, "Special Option", "スペシャルオプション"},
 
-    {EXP_M1, 0, P::EXP_M0, 0, 0, 11001, none, "Pset", "点"},
-    {EXP_M1, 1, P::EXP_M0, 2, 0, 8, none, "Paint A", "同じ色の範囲を塗る"},
-    {EXP_M1, 2, P::EXP_M0, 2, 1, 9, none, "Paint B", "境界の色まで塗る"},
-    {EXP_M1, 3, P::EXP_M0, 1, 0, 10, none, "Mask pen", "マスクペン"},
-    {EXP_M1, 4, P::EXP_M0, 1, 1, 11, none, "Reverse mask pen", "逆マスクペン"},
-    {EXP_M1, 5, P::EXP_M0, 0, 3, 11002, none, "Boxfill", "四角塗り"},
-    {EXP_M1, 6, P::EXP_M0, 1, 3, 11100, none, "Copy", "領域コピー"},
-    {EXP_M1, 7, P::EXP_M1, 0, 0, 12, none, "Left side change", "左側の色交換"},
-    {EXP_M1, 8, P::EXP_M1, 0, 1, 13, none, "Right side change", "右側の色交換"},
-    {EXP_M1, 9, P::EXP_M1, 0, 2, 14, none, "Up side change", "上側の色交換"},
-    {EXP_M1, 10, P::EXP_M1, 0, 3, 15, none, "Down side change", "下側の色交換"},
-    {EXP_M1, 11, P::EXP_M0, 1, 2, 23, FUZZY_WIN, "Fuzzy Mask Pen", "似た色のマスクペン"},
+    {EXP_M1, 0, P::EXP_M0, 0, 0, 11001, none, nullptr, "点"},
+    {EXP_M1, 1, P::EXP_M0, 2, 0, 8, none, nullptr, "同じ色の範囲を塗る"},
+    {EXP_M1, 2, P::EXP_M0, 2, 1, 9, none, nullptr, "境界の色まで塗る"},
+    {EXP_M1, 3, P::EXP_M0, 1, 0, 10, none, nullptr, "マスクペン"},
+    {EXP_M1, 4, P::EXP_M0, 1, 1, 11, none, nullptr, "逆マスクペン"},
+    {EXP_M1, 5, P::EXP_M0, 0, 3, 11002, none, nullptr, "四角塗り"},
+    {EXP_M1, 6, P::EXP_M0, 1, 3, 11100, none, nullptr, "領域コピー"},
+    {EXP_M1, 7, P::EXP_M1, 0, 0, 12, none, nullptr, "輪郭の左側を塗る"},
+    {EXP_M1, 8, P::EXP_M1, 0, 1, 13, none, nullptr, "輪郭の右側を塗る"},
+    {EXP_M1, 9, P::EXP_M1, 0, 2, 14, none, nullptr, "輪郭の上側を塗る"},
+    {EXP_M1, 10, P::EXP_M1, 0, 3, 15, none, nullptr, "輪郭の下側を塗る"},
+    {EXP_M1, 11, P::EXP_M0, 1, 2, 23, FUZZY_WIN, nullptr, "似た色のマスクペン"},
     {EXP_M1, 12, P::EXP_M0, 0, 1, 11010, none, "Line", "直線"},
-    {EXP_M1, 13, P::EXP_M0, 0, 2, 11003, none, "Box", "四角"},
-    {EXP_M1, 14, P::EXP_M0, 2, 2, 11004, none, "Circle", "円"},
+    {EXP_M1, 13, P::EXP_M0, 0, 2, 11003, none, nullptr, "四角"},
+    {EXP_M1, 14, P::EXP_M0, 2, 2, 11004, none, nullptr, "円"},
     {EXP_M1, 15, P::EXP_M0, 2, 3, 11005, none, "Circlefill", "円塗り"},
-    {EXP_M1, 16, P::EXP_M1, 1, 0, 33, HSET_WIN, "V Pen", "明るさを変えるペン"},
-    {EXP_M1, 17, P::EXP_M1, 1, 1, 11006, HSET_WIN, "V Pen", "明るさを変える四角"},
-    {EXP_M1, 18, P::EXP_M1, 1, 2, 34, SPRAY_WIN, "AirSpray", "エアスプレー"},
-    {EXP_M1, 19, P::EXP_M1, 1, 3, 35, none, "MaskAirSpray", "マスクエアスプレー"},
+    {EXP_M1, 16, P::EXP_M1, 1, 0, 33, HSET_WIN, nullptr, "明るさを変えるペン"},
+    {EXP_M1, 17, P::EXP_M1, 1, 1, 11006, HSET_WIN, nullptr, "明るさを変える四角"},
+    {EXP_M1, 18, P::EXP_M1, 1, 2, 34, SPRAY_WIN, nullptr, "エアスプレー"},
+    {EXP_M1, 19, P::EXP_M1, 1, 3, 35, none, nullptr, "マスクエアスプレー"},
 
     {EXP_M2, 0, P::EXP_M2, 0, 0, 10001, none, "Back to x1", "等倍に戻す"},
-    {EXP_M2, 1, P::EXP_M2, 0, 1, 10002, none, "Expand to x2", "2倍に拡大"},
-    {EXP_M2, 2, P::EXP_M2, 0, 2, 10004, none, "Expand to x4", "4倍に拡大"},
-    {EXP_M2, 3, P::EXP_M2, 0, 3, 10008, none, "Expand to x8", "8倍に拡大"},
+    {EXP_M2, 1, P::EXP_M2, 0, 1, 10002, none, nullptr, "2倍に拡大"},
+    {EXP_M2, 2, P::EXP_M2, 0, 2, 10004, none, nullptr, "4倍に拡大"},
+    {EXP_M2, 3, P::EXP_M2, 0, 3, 10008, none, nullptr, "8倍に拡大"},
 
     {OPT_W_B, 0, P::WINDOW, 0, 2, NO_TOOL, none, "Overview", "全体表示"},
     {OPT_W_B, 1, P::WINDOW, 0, 0, NO_TOOL, none, "Help", "ヘルプ"},
@@ -179,8 +182,12 @@ const PalButton& row_of(Group group, int index) {
   return *row;
 }
 
+std::string name_of(const PalButton& button) {
+  return button.name ? button.name : text::Trim(TOOL_STATUS(button.tool));
+}
+
 std::string tool_tip(const PalButton& button) {
-  std::string text = std::string(button.name) + "  " + button.japanese;
+  std::string text = name_of(button) + "  " + button.japanese;
   if (button.right != none) text += std::string("\n右クリック: ") + RIGHT_CLICK[static_cast<size_t>(button.right)];
   return text;
 }

@@ -41,8 +41,8 @@ struct PalButton {
   int8_t row, column;
   int16_t tool;
   Param right;
-  const char* name;      // the tool's status text; what a screen reader says
-  const char* japanese;  // the same for the tool tip's second half
+  const char* name;      // null: the tool's status text says it
+  const char* japanese;  // the same for a reader of Japanese
 };
 
 // In the order of the groups, each by its index.
@@ -74,6 +74,8 @@ struct PanelPlace {
 std::span<const PanelPlace> palette_panels();
 const PanelPlace& place_of(Panel panel);
 
+std::string name_of(const PalButton& button);  // what a screen reader says
+// Name, Japanese name, and what a right click opens.
 std::string tool_tip(const PalButton& button);
 
 }  // namespace kiso
