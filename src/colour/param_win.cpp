@@ -108,25 +108,30 @@ void load(Which which) {
 
 constexpr int ROW_HEIGHT = 24, FRAME_LEFT = 8, FRAME_WIDTH = 216;
 
-void design(Which which) {
-  const WindowRow& form = WINDOWS[which];
-  const int frame_height = 28 + ROW_HEIGHT * form.rows;
-  form.window->design(0, 0, FRAME_WIDTH + 2 * FRAME_LEFT, frame_height + (form.Command3 ? 44 : 16));
-  form.frame->design(FRAME_LEFT, 6, FRAME_WIDTH, frame_height);
-  form.frame->Caption(form.frame_caption);
+void design_bars(Which which, Frame* frame) {
   int top = 20;
   for (const BarRow& row : BARS) {
     if (row.window != which) continue;
-    row.bar->design(44, top, 118, 18, form.frame);
+    row.bar->design(44, top, 118, 18, frame);
     row.bar->range(row.min, row.max, row.start, 1, row.large);
     row.bar->accessible_name = row.name;
+    row.bar->Change = row.change;
     if (row.value) {
-      row.value->design(180, top, 28, 18, form.frame);
+      row.value->design(180, top, 28, 18, frame);
       row.value->align = Label::Align::right;
       row.value->Caption(text::Str(row.start));
     }
     top += ROW_HEIGHT;
   }
+}
+
+void design_inside(Which which, void (*default_click)()) {
+  const WindowRow& form = WINDOWS[which];
+  const int frame_height = 28 + ROW_HEIGHT * form.rows;
+  form.window->design(0, 0, FRAME_WIDTH + 2 * FRAME_LEFT, frame_height + (form.Command3 ? 44 : 16));
+  form.frame->design(FRAME_LEFT, 6, FRAME_WIDTH, frame_height);
+  form.frame->Caption(form.frame_caption);
+  design_bars(which, form.frame);
   for (const LabelRow& row : LABELS) {
     if (row.window != which) continue;
     row.label->design(row.left, 20 + ROW_HEIGHT * row.row, row.width, 18, form.frame);
@@ -136,20 +141,16 @@ void design(Which which) {
   form.Command3->design(FRAME_LEFT + FRAME_WIDTH - 72, frame_height + 12, 72, 24);
   form.Command3->Caption("Default");
   form.Command3->ToolTip("はじめの値に戻す");
+  form.Command3->Click = default_click;
 }
-void wire(Which which, void (*load_event)(), void (*unload_event)(int&), void (*default_click)()) {
-  const WindowRow& form = WINDOWS[which];
-  form.window->Form_Load = load_event;
-  form.window->Form_Unload = unload_event;
-  if (form.Command3) form.Command3->Click = default_click;
-  for (const BarRow& row : BARS) {
-    if (row.window == which) row.bar->Change = row.change;
-  }
-}
+
+// The events are wired here, each time the window loads, and not by the constructors: these may reach their controls
+// through `this` alone, which the tables do not.
 template <Which W>
-void wire() {
-  wire(
-      W, [] { load(W); }, [](int& /*Cancel*/) { *WINDOWS[W].on = 0; }, [] { set_defaults(W); });
+void design() {
+  WINDOWS[W].window->Form_Load = [] { load(W); };
+  WINDOWS[W].window->Form_Unload = [](int& /*Cancel*/) { *WINDOWS[W].on = 0; };
+  design_inside(W, [] { set_defaults(W); });
 }
 
 bool keeps_open(Which window, int tool) {
@@ -162,14 +163,10 @@ bool keeps_open(Which window, int tool) {
 
 using namespace param_win;  // NOLINT(google-build-using-namespace)
 
-FuzzyWin::FuzzyWin() : Window("FUZZY_WIN", Border::tool, Scale::pixels, [] { param_win::design(FUZZY); }) {
-  wire<FUZZY>();
-}
-SprayWin::SprayWin() : Window("SPRAY_WIN", Border::tool, Scale::pixels, [] { param_win::design(SPRAY); }) {
-  wire<SPRAY>();
-}
-HsetWin::HsetWin() : Window("HSET_WIN", Border::tool, Scale::pixels, [] { param_win::design(HSET); }) { wire<HSET>(); }
-DeepWin::DeepWin() : Window("DEEP_WIN", Border::tool, Scale::pixels, [] { param_win::design(DEEP); }) { wire<DEEP>(); }
+FuzzyWin::FuzzyWin() : Window("FUZZY_WIN", Border::tool, Scale::pixels, param_win::design<FUZZY>) {}
+SprayWin::SprayWin() : Window("SPRAY_WIN", Border::tool, Scale::pixels, param_win::design<SPRAY>) {}
+HsetWin::HsetWin() : Window("HSET_WIN", Border::tool, Scale::pixels, param_win::design<HSET>) {}
+DeepWin::DeepWin() : Window("DEEP_WIN", Border::tool, Scale::pixels, param_win::design<DEEP>) {}
 
 FuzzyWin FUZZY_WIN;
 SprayWin SPRAY_WIN;
