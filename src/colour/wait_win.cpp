@@ -6,6 +6,7 @@
 #include "frame/col_win.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "platform/text/text.h"
 
 namespace kiso {
 
@@ -44,11 +45,19 @@ WaitWin::WaitWin() : Window("WAIT_WIN", Border::dialog, Scale::pixels, wait_win:
 
 WaitWin WAIT_WIN;
 
+void WAIT_SHOW(const std::string& caption) {
+  WAIT_WIN.Show(&P_WIN);
+  WAIT_WIN.FRAME.Caption(caption);
+  desktop().record("progress", "caption \"" + caption + "\"");
+  WAIT_WIN.Refresh();
+}
+
 namespace {
 constinit std::chrono::steady_clock::time_point last_shown{};
 }
 
 void WAIT_PROGRESS(double done, double total) {
+  desktop().record("progress", "progress " + text::CStr(done) + " " + text::CStr(total));
   PictureBox& bar = WAIT_WIN.BAR;
   if (done == 0) {
     forms::Line(bar, 0, 0, bar.ScaleWidth(), bar.ScaleHeight(), 0x8000000F, LineForm::box_fill);
