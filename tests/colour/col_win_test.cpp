@@ -1,0 +1,292 @@
+// The colour window: its colour boxes, the matrix of pure colours, the bars that follow each other.
+#include "colour/colour_test.h"
+
+namespace kiso {
+namespace {
+
+struct ColourWindow : ColourTest {};
+
+// --- the colour boxes and the pick tool
+
+TEST_F(ColourWindow, ASecondClickOnTheSelectedColourTogglesThePickTool) {
+  CUR_TOOL = 5;
+  EXPECT_EQ(COL_WIN.TAR_SEL.FillColor(), QBColor(11));
+  click(COL_WIN.TAR_COL);
+  EXPECT_EQ(CUR_TOOL, 1000);
+  EXPECT_EQ(PREV_TOOL, 5);
+  EXPECT_EQ(COL_WIN.TAR_SEL.FillColor(), QBColor(12));
+  EXPECT_EQ(COL_WIN.DES_SEL.FillColor(), FACE);
+  click(COL_WIN.TAR_COL);
+  EXPECT_EQ(CUR_TOOL, 5);
+  EXPECT_EQ(COL_WIN.TAR_SEL.FillColor(), QBColor(11));
+}
+
+TEST_F(ColourWindow, OneClickOnTheOtherColourLeavesThePickToolAndSelects) {
+  CUR_TOOL = 5;
+  set_destination(10, 20, 30);
+  click(COL_WIN.TAR_COL);
+  click(COL_WIN.DES_COL);
+  EXPECT_EQ(CUR_TOOL, 5);
+  EXPECT_EQ(COL_TARGET, 1);
+  EXPECT_EQ(working(), (Three{10, 20, 30}));
+  EXPECT_EQ(COL_WIN.DES_SEL.FillColor(), QBColor(11));
+  EXPECT_EQ(COL_WIN.TAR_SEL.FillColor(), FACE);
+}
+
+TEST_F(ColourWindow, TheDestinationColourTogglesThePickToolToo) {
+  CUR_TOOL = 7;
+  click(COL_WIN.DES_COL);
+  EXPECT_EQ(CUR_TOOL, 7);
+  click(COL_WIN.DES_COL);
+  EXPECT_EQ(CUR_TOOL, 1000);
+  EXPECT_EQ(COL_WIN.DES_SEL.FillColor(), QBColor(12));
+  click(COL_WIN.TAR_COL);
+  EXPECT_EQ(CUR_TOOL, 7);
+  EXPECT_EQ(COL_TARGET, 0);
+}
+
+TEST_F(ColourWindow, TheToolToComeBackToIsNeverThePickTool) {
+  CUR_TOOL = 8;
+  click(COL_WIN.TAR_COL);
+  click(COL_WIN.DES_COL);
+  click(COL_WIN.DES_COL);
+  EXPECT_EQ(CUR_TOOL, 1000);
+  EXPECT_EQ(PREV_TOOL, 8);
+  click(COL_WIN.DES_COL);
+  EXPECT_EQ(CUR_TOOL, 8);
+}
+
+TEST_F(ColourWindow, SelectingAColourShowsItOnLevelBarsAndOpenBars) {
+  set_destination(255, 0, 128);
+  click(COL_WIN.Command2);
+  click(COL_WIN.DES_COL);
+  EXPECT_EQ(rgb_bars(), (Three{255, 0, 128}));
+  EXPECT_EQ(GetPixel(COL_WIN.COL_RGB, to_int32(COL_WIN.COL_RGB.ScaleWidth()) - 1, 0), QBColor(12));
+  click(COL_WIN.TAR_COL);
+  EXPECT_EQ(rgb_bars(), (Three{0, 0, 0}));
+}
+
+// --- the panes
+
+TEST_F(ColourWindow, OnePaneIsOpen) {
+  const auto open = [](int pane) {
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(COL_WIN.CSEL_BASE(i).Visible(), i == pane) << i;
+    EXPECT_EQ(COL_PANE, pane);
+  };
+  open(0);
+  click(COL_WIN.Command3);
+  open(2);
+  click(COL_WIN.Command3);
+  open(2);
+  click(COL_WIN.Command2);
+  open(1);
+  click(COL_WIN.Command1);
+  open(0);
+}
+
+TEST_F(ColourWindow, TheBarsShowTheColourWhenTheirPaneOpens) {
+  set_target(255, 128, 128);
+  click(COL_WIN.Command2);
+  EXPECT_EQ(rgb_bars(), (Three{255, 128, 128}));
+  EXPECT_EQ(hsv_bars(), (Three{0, 127, 255}));
+  EXPECT_EQ(target(), (Three{255, 128, 128}));
+}
+
+// --- the matrix
+
+TEST_F(ColourWindow, SquaresSetTheirColour) {
+  const Three colours[] = {{0, 0, 255},   {255, 0, 0},   {255, 0, 255},   {0, 255, 0},
+                           {0, 255, 255}, {255, 255, 0}, {255, 255, 255}, {0, 0, 0}};
+  for (int i = 0; i < 8; ++i) {
+    set_target(9, 9, 9);
+    click(COL_WIN.C_BUT, i);
+    EXPECT_EQ(target(), colours[i]) << i;
+    EXPECT_EQ(destination(), (Three{255, 255, 255}));
+  }
+}
+
+TEST_F(ColourWindow, PlusAndMinusMoveTowardTheRowsColour) {
+  const Three plus[] = {{0, 0, 1}, {1, 0, 0}, {1, 0, 1}, {0, 1, 0}, {0, 1, 1}, {1, 1, 0}, {1, 1, 1}};
+  const Three minus[] = {{1, 1, 0}, {0, 1, 1}, {0, 1, 0}, {1, 0, 1}, {1, 0, 0}, {0, 0, 1}, {1, 1, 1}};
+  const auto after = [](const Three& which, int step) {
+    return Three{100 + step * which.a, 110 + step * which.b, 120 + step * which.c};
+  };
+  for (int i = 0; i < 7; ++i) {
+    set_target(100, 110, 120);
+    click(COL_WIN.P_BUT, i);
+    EXPECT_EQ(target(), after(plus[i], 1)) << i;
+    set_target(100, 110, 120);
+    click(COL_WIN.PP_BUT, i);
+    EXPECT_EQ(target(), after(plus[i], 16)) << i;
+    set_target(100, 110, 120);
+    click(COL_WIN.M_BUT, i);
+    EXPECT_EQ(target(), after(minus[i], -1)) << i;
+    set_target(100, 110, 120);
+    click(COL_WIN.MM_BUT, i);
+    EXPECT_EQ(target(), after(minus[i], -16)) << i;
+  }
+}
+
+TEST_F(ColourWindow, StepsStopAtTheEndsOfTheRange) {
+  set_target(200, 10, 30);
+  click(COL_WIN.MM_BUT, 2);
+  EXPECT_EQ(target(), (Three{200, 0, 30}));
+  set_target(250, 250, 7);
+  click(COL_WIN.PP_BUT, 5);
+  EXPECT_EQ(target(), (Three{255, 255, 7}));
+}
+
+TEST_F(ColourWindow, StepsBeginAtTheSelectedColour) {
+  COL_TARGET = 1;
+  set_destination(50, 60, 70);
+  CUR_R = CUR_G = CUR_B = 0;
+  click(COL_WIN.P_BUT, 1);
+  EXPECT_EQ(destination(), (Three{51, 60, 70}));
+}
+
+TEST_F(ColourWindow, EveryButtonOfTheMatrixLeavesThePickTool) {
+  const auto leaves = [](auto& buttons) {
+    CUR_TOOL = 1000;
+    PREV_TOOL = 3;
+    click(buttons, 0);
+    EXPECT_EQ(CUR_TOOL, 3);
+  };
+  leaves(COL_WIN.C_BUT);
+  leaves(COL_WIN.P_BUT);
+  leaves(COL_WIN.PP_BUT);
+  leaves(COL_WIN.M_BUT);
+  leaves(COL_WIN.MM_BUT);
+}
+
+TEST_F(ColourWindow, AHeldButtonLooksPressed) {
+  ImageBox& button = COL_WIN.MM_BUT(3);
+  const int raised = button.cell_y();
+  button.MouseDown.fire(3, 1, 0, 4, 4);
+  EXPECT_EQ(button.cell_y(), raised + 16);
+  EXPECT_EQ(button.cell_x(), 3 * 16);
+  button.MouseUp.fire(3, 1, 0, 4, 4);
+  EXPECT_EQ(button.cell_y(), raised);
+}
+
+// --- the bars
+
+struct Bars : ColourTest {
+  Bars() { click(COL_WIN.Command2); }
+};
+
+TEST_F(Bars, HaveTheirRanges) {
+  for (ScrollBar* bar :
+       {&COL_WIN.R_BAR, &COL_WIN.G_BAR, &COL_WIN.B_BAR, &COL_WIN.H_BAR, &COL_WIN.S_BAR, &COL_WIN.V_BAR}) {
+    EXPECT_EQ(bar->Min(), 0) << bar->name;
+    EXPECT_EQ(bar->Max(), bar == &COL_WIN.H_BAR ? 360 : 255) << bar->name;
+    EXPECT_EQ(bar->SmallChange(), 1) << bar->name;
+    EXPECT_EQ(bar->LargeChange(), 16) << bar->name;
+  }
+}
+
+TEST_F(Bars, HsvFollowsRgb) {
+  COL_WIN.R_BAR.Value(255);
+  EXPECT_EQ(hsv_bars(), (Three{0, 255, 255}));
+  COL_WIN.G_BAR.Value(128);
+  COL_WIN.B_BAR.Value(128);
+  EXPECT_EQ(hsv_bars(), (Three{0, 127, 255}));
+  EXPECT_EQ(target(), (Three{255, 128, 128}));
+}
+
+TEST_F(Bars, RgbFollowsHsv) {
+  COL_WIN.V_BAR.Value(255);
+  EXPECT_EQ(target(), (Three{255, 255, 255}));
+  COL_WIN.S_BAR.Value(255);
+  EXPECT_EQ(target(), (Three{255, 0, 0}));
+  COL_WIN.H_BAR.Value(120);
+  EXPECT_EQ(target(), (Three{0, 255, 0}));
+  EXPECT_EQ(rgb_bars(), (Three{0, 255, 0}));
+  EXPECT_EQ(COL_WIN.TAR_COL.BackColor(), RGB(0, 255, 0));
+  EXPECT_EQ(COL_PANE, 1);
+}
+
+TEST_F(Bars, KeepWhatTheUserSetThoughTheColourIsBlack) {
+  set_target(0, 0, 255);
+  click(COL_WIN.Command1);
+  click(COL_WIN.Command2);
+  COL_WIN.V_BAR.Value(0);
+  EXPECT_EQ(target(), (Three{0, 0, 0}));
+  EXPECT_EQ(hsv_bars(), (Three{240, 255, 0}));
+  COL_WIN.V_BAR.Value(255);
+  EXPECT_EQ(target(), (Three{0, 0, 255}));
+}
+
+TEST_F(Bars, AFullTurnIsRedAndStaysAFullTurn) {
+  COL_WIN.V_BAR.Value(255);
+  COL_WIN.S_BAR.Value(255);
+  COL_WIN.H_BAR.Value(360);
+  EXPECT_EQ(target(), (Three{255, 0, 0}));
+  EXPECT_EQ(COL_WIN.H_BAR.Value(), 360);
+  COL_WIN.H_BAR.Value(0);
+  EXPECT_EQ(target(), (Three{255, 0, 0}));
+  EXPECT_EQ(COL_WIN.H_BAR.Value(), 0);
+}
+
+TEST_F(Bars, LabelsShowTheValueRgbWithABlankInFront) {
+  EXPECT_EQ(COL_WIN.R_VAL.Caption(), " 0");
+  EXPECT_EQ(COL_WIN.H_VAL.Caption(), "0");
+  COL_WIN.R_BAR.Value(128);
+  EXPECT_EQ(COL_WIN.R_VAL.Caption(), " 128");
+  EXPECT_EQ(COL_WIN.V_VAL.Caption(), "128");
+  COL_WIN.H_BAR.Value(90);
+  EXPECT_EQ(COL_WIN.H_VAL.Caption(), "90");
+  EXPECT_EQ(COL_WIN.G_VAL.Caption(), " 128");
+}
+
+TEST_F(Bars, AMoveByHandLeavesThePickTool) {
+  for (ScrollBar* bar :
+       {&COL_WIN.R_BAR, &COL_WIN.G_BAR, &COL_WIN.B_BAR, &COL_WIN.H_BAR, &COL_WIN.S_BAR, &COL_WIN.V_BAR}) {
+    CUR_TOOL = 1000;
+    PREV_TOOL = 4;
+    bar->Value(bar->Value() == 77 ? 78 : 77);
+    EXPECT_EQ(CUR_TOOL, 4) << bar->name;
+  }
+}
+
+TEST_F(Bars, AColourFromThePictureMovesThemAndKeepsThePickTool) {
+  CUR_TOOL = 1000;
+  PREV_TOOL = 4;
+  CUR_R = 0, CUR_G = 255, CUR_B = 255;
+  COL_UPDATE();
+  EXPECT_EQ(rgb_bars(), (Three{0, 255, 255}));
+  EXPECT_EQ(hsv_bars(), (Three{180, 255, 255}));
+  EXPECT_EQ(CUR_TOOL, 1000);
+}
+
+// --- its place
+
+TEST_F(ColourWindow, ComesBackToItsPlaceAndPane) {
+  COL_WIN.Move(1500, 3000);
+  COL_WIN.Unload();
+  EXPECT_EQ(COL_LEFT, 1500);
+  EXPECT_EQ(COL_TOP, 3000);
+  COL_PANE = 2;
+  DICT_CUR = 4;
+  DICT_WRITE = 1;
+  COL_RGB_LOCK = COL_HSV_LOCK = 1;
+  COL_WIN.Load();
+  EXPECT_EQ(COL_WIN.Left(), 1500);
+  EXPECT_EQ(COL_WIN.Top(), 3000);
+  EXPECT_EQ(COL_WIN.Caption(), "Kiso ");
+  EXPECT_FALSE(COL_WIN.CSEL_BASE(0).Visible());
+  EXPECT_TRUE(COL_WIN.CSEL_BASE(2).Visible());
+  EXPECT_EQ(DICT_CUR, 0);
+  EXPECT_EQ(DICT_WRITE, 0);
+  EXPECT_EQ(COL_RGB_LOCK, 0);
+  EXPECT_EQ(COL_HSV_LOCK, 0);
+}
+
+TEST_F(ColourWindow, ItsPlaceIsStoredInWholeTwips) {
+  COL_WIN.Move(100.5, 101.5);
+  COL_WIN.Unload();
+  EXPECT_EQ(COL_LEFT, 100);
+  EXPECT_EQ(COL_TOP, 102);
+}
+
+}  // namespace
+}  // namespace kiso
