@@ -1,0 +1,173 @@
+// What a person finds on the palette: every button in its place, with a picture and a name.
+#include <set>
+
+#include "palette/about_win.h"
+#include "palette/help_win.h"
+#include "palette/palette_fixture.h"
+#include "palette/palette_table.h"
+#include "platform/forms/sheets.h"
+
+namespace kiso {
+namespace {
+
+constexpr int BLANK = -1;
+
+// A panel's buttons in reading order, as the palette is laid out.
+struct Row {
+  Panel panel;
+  int row;
+  Group group;
+  std::vector<int> indices;
+};
+const Row ROWS[] = {
+    {Panel::ROOT_B_BASE, 0, Group::ROOT_B, {0, 4, 6, 1}},
+    {Panel::ROOT_B_BASE, 1, Group::ROOT_B, {2, 5, 3}},
+    {Panel::ROOT_M0, 0, Group::CMD_B, {0, 1, 2, 3}},
+    {Panel::ROOT_M0, 1, Group::CMD_B, {4, 5, 6, 20}},
+    {Panel::ROOT_M0, 2, Group::CMD_B, {7, 8, 9, 10}},
+    {Panel::ROOT_M1, 0, Group::EDIT_B, {BLANK, 0, 1, 2}},
+    {Panel::ROOT_M2, 0, Group::FILE_B, {BLANK, BLANK, 0, 2}},
+    {Panel::ROOT_M2, 1, Group::FILE_B, {BLANK, BLANK, 1, 3}},
+    {Panel::ROOT_M2, 2, Group::FILE_B, {4, 5, 6, 7}},
+    {Panel::ROOT_M3, 0, Group::SYS_B, {0, 1, 2}},
+    {Panel::ROOT_M3, 2, Group::SYS_B, {3, 4}},
+    {Panel::ROOT_M4, 0, Group::CMD_B, {11, 16, 27, 23}},
+    {Panel::ROOT_M4, 1, Group::CMD_B, {18, 19, 21, 22}},
+    {Panel::ROOT_M4, 2, Group::CMD_B, {12, 13, 14, 15}},
+    {Panel::ROOT_M5, 0, Group::EFCT_B, {0, 1, 2, 3}},
+    {Panel::ROOT_M5, 1, Group::EFCT_B, {4, 5}},
+    {Panel::ROOT_M6, 0, Group::CMD_B, {17, 24, 33, 34}},
+    {Panel::ROOT_M6, 1, Group::CMD_B, {25, 26, 30, 35}},
+    {Panel::ROOT_M6, 2, Group::CMD_B, {28, 29, 32, 31}},
+    {Panel::EXP_B_BASE, 0, Group::EXP_B, {0, 1, 2}},
+    {Panel::EXP_M0, 0, Group::EXP_M1, {0, 12, 13, 5}},
+    {Panel::EXP_M0, 1, Group::EXP_M1, {3, 4, 11, 6}},
+    {Panel::EXP_M0, 2, Group::EXP_M1, {1, 2, 14, 15}},
+    {Panel::EXP_M1, 0, Group::EXP_M1, {7, 8, 9, 10}},
+    {Panel::EXP_M1, 1, Group::EXP_M1, {16, 17, 18, 19}},
+    {Panel::EXP_M2, 0, Group::EXP_M2, {0, 1, 2, 3}},
+    {Panel::WINDOW, 0, Group::OPT_W_B, {1, 2, 0}},
+};
+
+TEST_F(Palette, EveryButtonStandsInItsPlace) {
+  size_t buttons = 0;
+  for (const Row& row : ROWS) {
+    const PanelPlace& panel = place_of(row.panel);
+    PictureBox* box = panel.box();
+    for (size_t column = 0; column < row.indices.size(); ++column) {
+      if (row.indices[column] == BLANK) continue;
+      ++buttons;
+      ImageBox& b = group_of(row.group).button(row.indices[column]);
+      EXPECT_EQ(b.container, box) << b.full_name();
+      EXPECT_EQ(b.Left(), (box ? 0 : panel.left) + 24.0 * static_cast<double>(column)) << b.full_name();
+      EXPECT_EQ(b.Top(), (box ? 0 : panel.top) + 24.0 * row.row) << b.full_name();
+      EXPECT_EQ(b.Width(), 24) << b.full_name();
+      EXPECT_EQ(b.Height(), 24) << b.full_name();
+    }
+  }
+  EXPECT_EQ(buttons, palette_buttons().size()) << "each stands in one place";
+}
+
+TEST_F(Palette, PanelsAndTheFootFitTheWindow) {
+  for (const PanelPlace& p : palette_panels()) {
+    EXPECT_LE(p.left + p.width, CMD_WIN.ScaleWidth());
+    EXPECT_LE(p.top + p.height, CMD_WIN.ScaleHeight());
+  }
+  for (const PalButton& b : palette_buttons()) {
+    EXPECT_LE((b.column + 1) * CELL, place_of(b.panel).width);
+    EXPECT_LE((b.row + 1) * CELL, place_of(b.panel).height);
+  }
+}
+
+TEST_F(Palette, EveryButtonHasAPictureOfItsOwn) {
+  std::set<std::string> sheets;
+  for (const Sheet& sheet : all_sheets()) sheets.insert(sheet.name);
+  for (const PalButton& b : palette_buttons()) {
+    const PalGroup& group = group_of(b.group);
+    const ImageBox& image = group.button(b.index);
+    EXPECT_TRUE(sheets.contains(image.sheet())) << image.full_name();
+    EXPECT_EQ(image.sheet(), group.sheet);
+    EXPECT_EQ(image.cell_x(), b.index * 24) << image.full_name();
+  }
+  for (const PalGroup& group : palette_groups()) {
+    const auto sheet = std::ranges::find(all_sheets(), std::string_view(group.sheet), &Sheet::name);
+    ASSERT_NE(sheet, all_sheets().end());
+    EXPECT_EQ(sheet->width, group.count * 24) << group.sheet;
+    EXPECT_EQ(sheet->height, 48) << group.sheet;
+  }
+}
+
+TEST_F(Palette, EveryButtonSaysWhatItIs) {
+  for (const PalButton& b : palette_buttons()) {
+    const ImageBox& image = group_of(b.group).button(b.index);
+    EXPECT_FALSE(image.accessible_name.empty()) << image.full_name();
+    EXPECT_EQ(image.accessible_name.find("- -"), std::string::npos) << image.full_name();
+    EXPECT_EQ(image.ToolTip().find(image.accessible_name), 0U) << image.full_name();
+  }
+  EXPECT_EQ(CMD_WIN.CMD_B(27).accessible_name, "Polygon");
+  EXPECT_EQ(CMD_WIN.EXP_M1(15).accessible_name, "Circlefill");
+  EXPECT_NE(CMD_WIN.CMD_B(23).ToolTip().find("右クリック"), std::string::npos);
+  EXPECT_EQ(CMD_WIN.CMD_B(25).ToolTip().find("右クリック"), std::string::npos);
+  EXPECT_NE(CMD_WIN.UNDO.ToolTip().find("Space"), std::string::npos);
+}
+
+TEST_F(Palette, NoTwoButtonsOfAPanelSayTheSame) {
+  std::set<std::pair<const PictureBox*, std::string>> tips;
+  for (const PalButton& b : palette_buttons()) {
+    const ImageBox& image = group_of(b.group).button(b.index);
+    EXPECT_TRUE(tips.emplace(place_of(b.panel).box(), image.ToolTip()).second) << image.full_name();
+  }
+}
+
+TEST_F(Palette, ExitEndsTheProgramUnlessThePersonStays) {
+  click(CMD_WIN.ROOT_B(3));
+  desktop_.answers = {2};
+  click(CMD_WIN.SYS_B(0));
+  ASSERT_EQ(desktop_.boxes.size(), 1U);
+  EXPECT_EQ(desktop_.boxes[0].title, "Kiso 終了");
+  EXPECT_FALSE(has_ended());
+  EXPECT_EQ(pressed(CMD_WIN.SYS_B), Pressed{});
+  desktop_.answers = {6};
+  click(CMD_WIN.SYS_B(0));
+  EXPECT_TRUE(has_ended());
+  EXPECT_EQ(fatal_error(), 0);
+}
+
+TEST_F(Palette, TheAboutWindowShowsTheVersionOverTheMiddle) {
+  click(CMD_WIN.ROOT_B(3));
+  click(CMD_WIN.SYS_B(1));
+  ASSERT_TRUE(ABOUT_WIN.Loaded());
+  EXPECT_TRUE(ABOUT_WIN.Visible());
+  EXPECT_EQ(ABOUT_WIN.owner(), &P_WIN);
+  EXPECT_EQ(ABOUT_WIN.Version.Caption(), "Kiso72W.2.58");
+  EXPECT_EQ(ABOUT_WIN.Left() + ABOUT_WIN.Width() / 2, P_WIN.Left() + P_WIN.Width() / 2);
+  EXPECT_EQ(ABOUT_WIN.Top() + ABOUT_WIN.Height() / 2, P_WIN.Top() + P_WIN.Height() / 2);
+  enter([] { ABOUT_WIN.Command1.Click.fire(-1); });
+  EXPECT_FALSE(ABOUT_WIN.Loaded());
+}
+
+TEST_F(Palette, TheHelpWindowTellsEveryTool) {
+  click(CMD_WIN.OPT_W_B(1));
+  ASSERT_TRUE(HELP_WIN.Loaded());
+  EXPECT_TRUE(HELP_WIN.Visible());
+  const std::string& page = HELP_WIN.Text1.Text();
+  for (const PalButton& b : palette_buttons()) {
+    if (b.group != Group::CMD_B) continue;
+    const std::string name = name_of(b);
+    // the four sides share a line
+    if (name.ends_with("side change")) continue;
+    const size_t japanese = page.find(name);
+    EXPECT_NE(japanese, std::string::npos) << name;
+    EXPECT_GT(page.rfind(name), page.find("First steps")) << name << " in English";
+    EXPECT_LT(japanese, page.find("First steps")) << name << " in Japanese";
+  }
+  for (const char* key : {"PageUp", "Space", "スペース", "マウス", "Mouse"}) {
+    EXPECT_NE(page.find(key), std::string::npos) << key;
+  }
+  HELP_WIN.inside(400, 300);
+  EXPECT_EQ(HELP_WIN.Text1.Width(), 400);
+  EXPECT_EQ(HELP_WIN.Text1.Height(), 300);
+}
+
+}  // namespace
+}  // namespace kiso
