@@ -54,8 +54,9 @@ void Window::design(double left, double top, int inside_w, int inside_h, const c
   top_ = top;
   inside_w_ = inside_w;
   inside_h_ = inside_h;
-  width_ = (inside_w + desktop().frame_w) * TWIPS;
-  height_ = (inside_h + desktop().frame_h) * TWIPS;
+  frame_w_ = border == Border::splash ? 0 : desktop().frame_w;
+  frame_h_ = border == Border::splash ? 0 : desktop().frame_h;
+  fit_to_inside();
   caption_ = caption;
 }
 
@@ -71,21 +72,45 @@ void Window::Move(double left, double top, double width, double height) {
     note(GEOMETRY);
   }
   if (width == width_ && height == height_) return;
-  const int w = std::max(0, static_cast<int>(std::lround(width / TWIPS)) - desktop().frame_w);
-  const int h = std::max(0, static_cast<int>(std::lround(height / TWIPS)) - desktop().frame_h);
-  inside(w, h);
-  width_ = width;  // as it was given, where the inside is whole pixels
+  width_ = width;
   height_ = height;
+  outer_given_ = true;
+  fit_to_outer();
+}
+
+void Window::framed(int w, int h) {
+  if (w == frame_w_ && h == frame_h_) return;
+  frame_w_ = w;
+  frame_h_ = h;
+  outer_given_ ? fit_to_outer() : fit_to_inside();
 }
 
 void Window::inside(int w, int h) {
   touched();
   if (w == inside_w_ && h == inside_h_) return;
+  new_inside(w, h);
+  fit_to_inside();
+  Form_Resize.fire(-1);
+}
+
+void Window::new_inside(int w, int h) {
   inside_w_ = w;
   inside_h_ = h;
-  width_ = (w + desktop().frame_w) * TWIPS;
-  height_ = (h + desktop().frame_h) * TWIPS;
   note(GEOMETRY);
+}
+
+void Window::fit_to_inside() {
+  width_ = (inside_w_ + frame_w_) * TWIPS;
+  height_ = (inside_h_ + frame_h_) * TWIPS;
+  outer_given_ = false;
+}
+
+// The size stays as it was given, to the twip; the inside is whole pixels.
+void Window::fit_to_outer() {
+  const int w = std::max(0, static_cast<int>(std::lround(width_ / TWIPS)) - frame_w_);
+  const int h = std::max(0, static_cast<int>(std::lround(height_ / TWIPS)) - frame_h_);
+  if (w == inside_w_ && h == inside_h_) return;
+  new_inside(w, h);
   Form_Resize.fire(-1);
 }
 

@@ -222,6 +222,11 @@ class Window {
   void inside(int w, int h);
   void placed(double left, double top) { left_ = left, top_ = top; }  // the display has moved it; twips
   void state_changed(int window_state);                               // the display has minimized it, say
+  // What the display's frame adds to the inside, in pixels. A size that the program has asked for holds with its frame,
+  // else the inside does.
+  void framed(int w, int h);
+  int frame_w() const { return frame_w_; }
+  int frame_h() const { return frame_h_; }
   // For the design: place in twips and inside in pixels, without any event.
   void design(double left, double top, int inside_w, int inside_h, const char* caption = "");
   uint32_t take_pending() { return std::exchange(pending_, 0U); }
@@ -234,6 +239,9 @@ class Window {
   const Window& touched() const;
   Window& touched() { return const_cast<Window&>(static_cast<const Window*>(this)->touched()); }
   void note(uint32_t changes);
+  void new_inside(int w, int h);
+  void fit_to_inside();
+  void fit_to_outer();  // fires Form_Resize if the inside is new
 
   void (*design_)();
   std::vector<Control*> controls_;
@@ -241,6 +249,8 @@ class Window {
   double left_ = 0, top_ = 0;
   double width_ = 0, height_ = 0;
   int inside_w_ = 0, inside_h_ = 0;
+  int frame_w_ = 0, frame_h_ = 0;
+  bool outer_given_ = false;  // the program has asked for a size with its frame
   std::string caption_;
   int window_state_ = 0;
   bool loaded_ = false, visible_ = false, enabled_ = true, was_shown_ = false;

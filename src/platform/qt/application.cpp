@@ -1,0 +1,65 @@
+#include "platform/qt/application.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/forms/runtime.h"
+#include "platform/qt/look.h"
+
+namespace qt {
+
+namespace {
+
+// An environment variable with another value while this lives. Programs that are started later see the user's own.
+class WhileMade {
+ public:
+  WhileMade(const char* name, const QByteArray& value) : name_(name), old_(qgetenv(name)) {
+    if (!value.isEmpty()) qputenv(name, value);
+  }
+  ~WhileMade() { old_.isNull() ? qunsetenv(name_) : qputenv(name_, old_); }
+  WhileMade(const WhileMade&) = delete;
+  WhileMade& operator=(const WhileMade&) = delete;
+
+ private:
+  const char* name_;
+  QByteArray old_;
+};
+
+}  // namespace
+
+QByteArray whole_scales(const QByteArray& scales) {
+  QByteArrayList out;
+  for (const QByteArray& item : scales.split(';')) {
+    const qsizetype value = item.lastIndexOf('=') + 1;
+    bool is_number = false;
+    const double scale = item.mid(value).toDouble(&is_number);
+    out += is_number ? item.left(value) + QByteArray::number(std::max(1.0, std::round(scale))) : item;
+  }
+  return out.join(';');
+}
+
+int pixel_depth(int screen_depth) {
+  if (screen_depth >= 24) return 32;
+  return screen_depth >= 15 ? 16 : 8;
+}
+
+Application::Application(int& argc, char** argv, bool offscreen) {
+  // A pixel of the picture is a whole number of the display's pixels, whatever scale the user has set.
+  const WhileMade policy("QT_SCALE_FACTOR_ROUNDING_POLICY", "Round");
+  const WhileMade scale("QT_SCALE_FACTOR", whole_scales(qgetenv("QT_SCALE_FACTOR")));
+  const WhileMade scales("QT_SCREEN_SCALE_FACTORS", whole_scales(qgetenv("QT_SCREEN_SCALE_FACTORS")));
+  // The OpenGL driver takes longer to load than everything else, and nothing here draws with it.
+  const WhileMade no_gl("QT_XCB_GL_INTEGRATION", "none");
+  const WhileMade platform("QT_QPA_PLATFORM", offscreen ? QByteArray("offscreen") : qgetenv("QT_QPA_PLATFORM"));
+
+  // Every point of a fast stroke counts.
+  QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+  QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
+  QApplication::setStyle("fusion");
+  app.emplace(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setPalette(light_palette());
+  QApplication::setFont(font_of(forms::Font{}));
+}
+
+}  // namespace qt

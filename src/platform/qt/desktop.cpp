@@ -1,0 +1,96 @@
+#include "platform/qt/desktop.h"
+
+#include <QFontMetrics>
+#include <QScreen>
+#include <QTimer>
+
+#include "platform/qt/application.h"
+#include "platform/qt/boxes.h"
+#include "platform/qt/look.h"
+#include "platform/qt/nominal_frame.h"
+#include "platform/qt/peer.h"
+#include "platform/qt/pointer.h"
+
+namespace qt {
+
+using forms::Control;
+using forms::Kind;
+
+QtDesktop::QtDesktop(int& argc, char** argv, bool offscreen)
+    : application_(std::make_unique<Application>(argc, argv, offscreen)) {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  screen_w = screen->size().width();
+  screen_h = screen->size().height();
+  depth = pixel_depth(screen->depth());
+  const QSize frame = nominal_frame();
+  frame_w = frame.width();
+  frame_h = frame.height();
+}
+
+QtDesktop::~QtDesktop() {
+  for (forms::Window* w : forms::all_windows()) w->drop();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  if (&forms::desktop() == this) forms::use_desktop(nullptr);
+}
+
+std::unique_ptr<forms::Peer> QtDesktop::show(forms::Window& window) { return make_window_peer(window); }
+
+std::unique_ptr<forms::Peer> QtDesktop::show(Control& control) {
+  switch (control.kind) {
+    case Kind::picture: return make_picture_peer(static_cast<forms::PictureBox&>(control));
+    case Kind::timer: return make_timer_peer(static_cast<forms::Timer&>(control));
+    case Kind::label:
+    case Kind::image:
+    case Kind::shape:
+    case Kind::frame: return make_plain_peer(control);
+    case Kind::button:
+    case Kind::scroll_bar:
+    case Kind::option_button:
+    case Kind::check_box: return make_worked_peer(control);
+    case Kind::text_box:
+    case Kind::combo_box:
+    case Kind::list_box: return make_text_peer(control);
+  }
+  return nullptr;
+}
+
+int QtDesktop::message_box(const std::string& text, int style, const std::string& title) {
+  return qt::message_box(text, style, title);
+}
+
+void QtDesktop::error_box(int number, const std::string& text) {
+  qt::message_box("実行時エラー '" + std::to_string(number) + "':\n\n" + text, 16,
+                  from_qt(QCoreApplication::applicationName()));
+}
+
+void QtDesktop::do_events() { QCoreApplication::processEvents(); }
+void QtDesktop::beep() { QApplication::beep(); }
+void QtDesktop::quit() { QCoreApplication::exit(forms::fatal_error() ? 1 : 0); }
+void QtDesktop::pointer_move(int dx, int dy) { keypad_move(dx, dy); }
+void QtDesktop::pointer_button(bool down) { keypad_button(down); }
+
+bool QtDesktop::has_focus(const forms::Window& window) {
+  const QWidget* w = widget_of(window);
+  return w && w->isActiveWindow();
+}
+
+void QtDesktop::text_size(const std::string& text, const forms::Font& font, int& width, int& height) {
+  const QSize size = QFontMetrics(font_of(font)).size(0, to_qt(text));
+  width = size.width();
+  height = size.height();
+}
+
+int QtDesktop::run(void (*start)(const std::string& command_line), const std::string& command_line) {
+  QTimer::singleShot(0, [&] { forms::enter([&] { start(command_line); }); });
+  return QCoreApplication::exec();
+}
+
+int run_desktop(int argc, char** argv, void (*start)(const std::string& command_line)) {
+  QtDesktop desktop(argc, argv);
+  std::string command_line;
+  for (int i = 1; i < argc; ++i) command_line += (i > 1 ? " " : "") + std::string(argv[i]);
+  forms::use_desktop(&desktop);
+  return desktop.run(start, command_line);
+}
+
+}  // namespace qt

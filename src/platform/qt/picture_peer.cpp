@@ -1,0 +1,120 @@
+// A picture box on the display: painted straight from its surface, only what is new.
+#include <QFocusEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include "platform/qt/keys.h"
+#include "platform/qt/look.h"
+#include "platform/qt/peer.h"
+#include "platform/qt/pointer.h"
+
+namespace qt {
+
+using forms::PictureBox;
+
+namespace {
+
+// 8 bits are 3-3-2, each field spread over the whole range.
+QList<QRgb> colours_332(const raster::Surface& surface) {
+  QList<QRgb> table(256);
+  for (uint32_t pixel = 0; pixel < 256; ++pixel) table[pixel] = colour_of(surface.to_colour(pixel)).rgb();
+  return table;
+}
+
+// The surface's own memory as an image.
+QImage image_over(const raster::Surface& surface) {
+  constexpr auto format = [](int depth) {
+    switch (depth) {
+      case 24: return QImage::Format_BGR888;
+      case 16: return QImage::Format_RGB16;
+      case 8: return QImage::Format_Indexed8;
+      default: return QImage::Format_RGB32;
+    }
+  };
+  QImage image(surface.row(0), surface.width(), surface.height(), surface.stride(), format(surface.depth()));
+  if (surface.depth() == 8) image.setColorTable(colours_332(surface));
+  return image;
+}
+
+class PicturePeer final : public ControlPeer {
+ public:
+  explicit PicturePeer(PictureBox& box) : ControlPeer(box), box_(box) {}
+  void drawn(const raster::Rect& r) override {
+    if (widget()) widget()->update(r.left + inset(), r.top + inset(), r.right - r.left, r.bottom - r.top);
+  }
+  int inset() const override { return box_.border ? 1 : 0; }
+
+ protected:
+  QWidget* make(QWidget* parent) override;
+  void refresh(uint32_t changes) override {
+    if (changes & (forms::GEOMETRY | forms::LOOK)) widget()->update();
+  }
+  void enable(bool on) override { widget()->setAttribute(Qt::WA_TransparentForMouseEvents, !on); }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void paint(const QPaintEvent& event);
+  bool wheel(const QWheelEvent& event);
+
+  PictureBox& box_;
+  PointerTrack track_;
+  QPoint turned_;  // of the wheel, not yet a whole step; eighths of a degree
+};
+
+QWidget* PicturePeer::make(QWidget* parent) {
+  auto* w = new QWidget(parent);
+  w->setAttribute(Qt::WA_OpaquePaintEvent);
+  w->setMouseTracking(static_cast<bool>(box_.MouseMove));
+  if (box_.KeyDown || box_.KeyPress || box_.KeyUp) w->setFocusPolicy(Qt::ClickFocus);
+  track_.second_press_is_press = box_.second_press_is_press;
+  return w;
+}
+
+void PicturePeer::paint(const QPaintEvent& event) {
+  QPainter p(widget());
+  const raster::Surface& surface = box_.shown();
+  const QRect inside = widget()->rect().adjusted(inset(), inset(), -inset(), -inset());
+  const QRect pixels(inside.topLeft(), QSize(surface.width(), surface.height()));
+  const QRegion rest = event.region() - (inside & pixels);
+  for (const QRect& r : rest) p.fillRect(r, colour_of(box_.BackColor()));
+  if (!pixels.isEmpty()) {
+    const QImage image = image_over(surface);
+    for (const QRect& r : event.region() & inside & pixels) p.drawImage(r, image, r.translated(-inside.topLeft()));
+  }
+  if (!box_.border) return;
+  p.setPen(QColor(160, 160, 160));
+  p.drawRect(widget()->rect().adjusted(0, 0, -1, -1));
+}
+
+// Touch pads send fractions of a step.
+bool PicturePeer::wheel(const QWheelEvent& event) {
+  if (!box_.Wheel || !reachable()) return false;
+  turned_ += event.angleDelta();
+  const QPoint steps(turned_.x() / QWheelEvent::DefaultDeltasPerStep, turned_.y() / QWheelEvent::DefaultDeltasPerStep);
+  turned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+  if (!steps.isNull()) user_event([&] { box_.Wheel.fire(box_.index, -steps.x(), -steps.y()); });
+  return true;
+}
+
+bool PicturePeer::eventFilter(QObject* /*watched*/, QEvent* event) {
+  if (track_.event(box_, box_, *widget(), *event, QPointF(inset(), inset()))) return true;
+  switch (event->type()) {
+    case QEvent::Paint: paint(*static_cast<QPaintEvent*>(event)); return true;
+    case QEvent::Wheel: return wheel(*static_cast<QWheelEvent*>(event));
+    // A key that repeats or means nothing here still ends here.
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+      if (reachable()) key_event(box_, box_, *static_cast<QKeyEvent*>(event));
+      return true;
+    case QEvent::FocusIn: set_keyboard(box_.window, widget()); return false;
+    case QEvent::FocusOut: keypad_let_go(); return false;
+    default: return false;
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<forms::Peer> make_picture_peer(PictureBox& box) { return std::make_unique<PicturePeer>(box); }
+
+}  // namespace qt

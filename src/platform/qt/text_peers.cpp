@@ -1,0 +1,173 @@
+// The controls that are typed into or chosen from: text box, combo box, list.
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+#include "platform/qt/keys.h"
+#include "platform/qt/look.h"
+#include "platform/qt/peer.h"
+
+namespace qt {
+
+namespace {
+
+// Fires KeyPress for a key that is about to reach the field.
+template <class Model>
+void announce_key(Model& model, const QKeyEvent& event) {
+  const int character = key_character(event);
+  if (character && forms::reachable(model)) user_event([&] { model.KeyPress.fire(model.index, character); });
+}
+
+class TextPeer final : public ControlPeer {
+ public:
+  explicit TextPeer(forms::TextBox& box) : ControlPeer(box), box_(box) {}
+
+ protected:
+  QWidget* make(QWidget* parent) override;
+  void refresh(uint32_t changes) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void typed(const QString& text) {
+    if (reachable()) user_event([&] { box_.Text(from_qt(text)); });
+  }
+  void leave();
+
+  forms::TextBox& box_;
+  QLineEdit* line_ = nullptr;
+  QPlainTextEdit* page_ = nullptr;  // where the box has several lines
+};
+
+QWidget* TextPeer::make(QWidget* parent) {
+  if (box_.multi_line) {
+    page_ = new QPlainTextEdit(parent);
+    connect(page_, &QPlainTextEdit::textChanged, this, [this] { typed(page_->toPlainText()); });
+  } else {
+    line_ = new QLineEdit(parent);
+    connect(line_, &QLineEdit::textChanged, this, [this](const QString& text) { typed(text); });
+  }
+  QWidget* w = page_ ? static_cast<QWidget*>(page_) : line_;
+  w->setContextMenuPolicy(Qt::PreventContextMenu);
+  return w;
+}
+
+void TextPeer::refresh(uint32_t changes) {
+  if (changes & forms::LOOK) widget()->setFont(font_of(box_.font()));
+  if (!(changes & forms::TEXT)) return;
+  const QString text = to_qt(box_.Text());
+  if (page_ && page_->toPlainText() != text) page_->setPlainText(text);
+  if (line_ && line_->text() != text) line_->setText(text);
+}
+
+// The focus goes back if the program keeps it.
+void TextPeer::leave() {
+  const QPointer<QObject> alive(this);
+  int keep = 0;
+  user_event([&] { box_.Validate.fire(box_.index, keep); });
+  if (alive && keep) QMetaObject::invokeMethod(this, &TextPeer::take_focus, Qt::QueuedConnection);
+}
+
+bool TextPeer::eventFilter(QObject* /*watched*/, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) announce_key(box_, *static_cast<QKeyEvent*>(event));
+  if (event->type() == QEvent::FocusOut && reachable()) {
+    const Qt::FocusReason why = static_cast<QFocusEvent*>(event)->reason();
+    if (why != Qt::ActiveWindowFocusReason && why != Qt::PopupFocusReason) leave();
+  }
+  return false;
+}
+
+class ComboPeer final : public ControlPeer {
+ public:
+  explicit ComboPeer(forms::ComboBox& box) : ControlPeer(box), box_(box) {}
+
+ protected:
+  QWidget* make(QWidget* parent) override;
+  void refresh(uint32_t changes) override;
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress && watched != widget()) announce_key(box_, *static_cast<QKeyEvent*>(event));
+    return false;
+  }
+
+ private:
+  void choose(int i);
+  forms::ComboBox& box_;
+};
+
+QWidget* ComboPeer::make(QWidget* parent) {
+  auto* w = new QComboBox(parent);
+  w->setEditable(true);
+  w->setInsertPolicy(QComboBox::NoInsert);
+  w->setCompleter(nullptr);
+  w->lineEdit()->setContextMenuPolicy(Qt::PreventContextMenu);
+  w->lineEdit()->installEventFilter(this);
+  connect(w->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+    if (reachable()) user_event([&] { box_.Text(from_qt(text)); });
+  });
+  connect(w, &QComboBox::activated, this, [this](int i) { choose(i); });
+  return w;
+}
+
+// A choice counts even if it is the same as before, since other text may have been typed meanwhile.
+void ComboPeer::choose(int i) {
+  if (!reachable()) return;
+  user_event([&] {
+    box_.ListIndex(-1);
+    box_.ListIndex(i);
+  });
+}
+
+void ComboPeer::refresh(uint32_t changes) {
+  auto* w = static_cast<QComboBox*>(widget());
+  if (changes & forms::LIST) {
+    w->clear();
+    for (int i = 0; i < box_.ListCount(); ++i) w->addItem(to_qt(box_.List(i)));
+  }
+  if (changes & (forms::LIST | forms::VALUE)) w->setCurrentIndex(box_.ListIndex());
+  if (changes & (forms::LIST | forms::VALUE | forms::TEXT)) {
+    const QString text = to_qt(box_.Text());
+    if (w->currentText() != text) w->setEditText(text);
+  }
+}
+
+class ListPeer final : public ControlPeer {
+ public:
+  explicit ListPeer(forms::ListBox& box) : ControlPeer(box), box_(box) {}
+
+ protected:
+  QWidget* make(QWidget* parent) override {
+    auto* w = new QListWidget(parent);
+    connect(w, &QListWidget::currentRowChanged, this, [this](int row) {
+      if (reachable()) user_event([&] { box_.ListIndex(row); });
+    });
+    connect(w, &QListWidget::itemDoubleClicked, this, [this] {
+      if (reachable()) user_event([&] { box_.DblClick.fire(box_.index); });
+    });
+    return w;
+  }
+  void refresh(uint32_t changes) override {
+    auto* w = static_cast<QListWidget*>(widget());
+    if (changes & forms::LIST) {
+      w->clear();
+      for (int i = 0; i < box_.ListCount(); ++i) w->addItem(to_qt(box_.List(i)));
+    }
+    if (changes & (forms::LIST | forms::VALUE)) w->setCurrentRow(box_.ListIndex());
+  }
+
+ private:
+  forms::ListBox& box_;
+};
+
+}  // namespace
+
+std::unique_ptr<forms::Peer> make_text_peer(forms::Control& control) {
+  using namespace forms;
+  switch (control.kind) {
+    case Kind::text_box: return std::make_unique<TextPeer>(static_cast<TextBox&>(control));
+    case Kind::combo_box: return std::make_unique<ComboPeer>(static_cast<ComboBox&>(control));
+    default: return std::make_unique<ListPeer>(static_cast<ListBox&>(control));
+  }
+}
+
+}  // namespace qt

@@ -1,0 +1,303 @@
+// A window on the display. Whatever the user or the window manager does to it is read off the widget by follow(), which
+// compares and tells the model only what differs.
+#include <QApplication>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QThread>
+#include <QWindow>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/qt/keys.h"
+#include "platform/qt/look.h"
+#include "platform/qt/nominal_frame.h"
+#include "platform/qt/peer.h"
+
+namespace qt {
+
+using forms::Border;
+using forms::Window;
+
+namespace {
+
+constexpr int NORMAL = 0, MINIMIZED = 1, MAXIMIZED = 2;  // window states
+
+Qt::WindowFlags flags_of(const Window& window) {
+  constexpr auto TITLE =
+      Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  switch (window.border) {
+    case Border::sizable: return Qt::Window;
+    case Border::fixed: return Qt::Window | TITLE | Qt::WindowMinimizeButtonHint;
+    case Border::dialog: return Qt::Dialog | TITLE;
+    case Border::tool:
+    case Border::sizable_tool: return Qt::Tool | TITLE;
+    case Border::splash: return Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
+  }
+  return Qt::Window;
+}
+
+bool is_tool(const Window& window) { return window.border == Border::tool || window.border == Border::sizable_tool; }
+bool is_sizable(const Window& window) {
+  return window.border == Border::sizable || window.border == Border::sizable_tool;
+}
+
+// Something in it is typed into, or it answers keys itself.
+bool wants_keys(const Window& window) {
+  if (window.Form_KeyPress) return true;
+  return std::ranges::any_of(window.controls(), [](const forms::Control* c) {
+    return c->kind == forms::Kind::text_box || c->kind == forms::Kind::combo_box || c->kind == forms::Kind::list_box;
+  });
+}
+
+class WindowPeer final : public QObject, public forms::Peer {
+ public:
+  explicit WindowPeer(Window& window) : window_(window) {}
+  ~WindowPeer() override { retire(widget); }
+
+  void update(uint32_t changes) override;
+  void paint_now() override;
+  void take_focus() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void follow();
+
+  QPointer<QWidget> widget;
+  QPointer<QWidget> keyboard;
+
+ private:
+  void realize();
+  void place();
+  void appear();
+  void set_state();
+  void wait_until_exposed();
+  void uncovered();
+  void key_pressed(QKeyEvent* event);
+  QWindow* handle() const { return widget->windowHandle(); }
+
+  Window& window_;
+  QPoint at_;                 // where the display has it, frame included
+  bool was_exposed_ = false;  // before that the display has not yet told its frame and place
+};
+
+WindowPeer* peer_of(const Window& window) { return dynamic_cast<WindowPeer*>(window.peer.get()); }
+
+int pixels(double twips) { return static_cast<int>(std::lround(twips / forms::TWIPS)); }
+
+void WindowPeer::realize() {
+  widget = new QWidget(nullptr, flags_of(window_));
+  widget->setAttribute(Qt::WA_AlwaysShowToolTips);
+  if (is_tool(window_)) {
+    widget->setAttribute(Qt::WA_ShowWithoutActivating);
+    widget->setWindowFlag(Qt::WindowDoesNotAcceptFocus, !wants_keys(window_));
+    widget->setFocusPolicy(Qt::ClickFocus);  // a click beside a text field takes the keyboard from it
+  }
+  widget->installEventFilter(this);
+  at_ = QPoint(pixels(window_.Left()), pixels(window_.Top()));
+  widget->move(at_);
+  place();
+  widget->setWindowTitle(to_qt(window_.Caption()));
+  widget->winId();
+  handle()->installEventFilter(this);
+  realize_inside(window_, nullptr);
+  if (!keyboard) {
+    for (const forms::Control* c : window_.controls()) {
+      if (c->kind != forms::Kind::picture || !static_cast<const forms::PictureBox*>(c)->KeyDown) continue;
+      keyboard = static_cast<ControlPeer*>(c->peer.get())->widget();
+      break;
+    }
+  }
+  if (keyboard) keyboard->setFocus();
+}
+
+void WindowPeer::place() {
+  const QSize inside(std::max(1, window_.inside_w()), std::max(1, window_.inside_h()));
+  if (is_sizable(window_)) {
+    widget->resize(inside);
+  } else {
+    widget->setFixedSize(inside);
+  }
+  const QPoint wanted(pixels(window_.Left()), pixels(window_.Top()));
+  if (wanted == at_) return;
+  at_ = wanted;
+  widget->move(wanted);
+}
+
+void WindowPeer::set_state() {
+  const int state = window_.WindowState();
+  Qt::WindowStates s = widget->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+  if (state == MINIMIZED) s |= Qt::WindowMinimized;
+  if (state == MAXIMIZED) s |= Qt::WindowMaximized;
+  widget->setWindowState(s);
+}
+
+void WindowPeer::appear() {
+  const Window* owner = window_.owner();
+  QWidget* above = owner ? widget_of(*owner) : nullptr;
+  handle()->setTransientParent(above ? above->windowHandle() : nullptr);
+  if (widget->isVisible()) {
+    widget->raise();
+    return;
+  }
+  was_exposed_ = false;
+  set_state();
+  widget->setVisible(true);
+}
+
+void WindowPeer::update(uint32_t changes) {
+  const Quiet quiet;
+  if (!widget && !window_.is_visible()) return;
+  if (!widget) realize();
+  if (changes & forms::GEOMETRY) place();
+  if (changes & forms::TEXT) widget->setWindowTitle(to_qt(window_.Caption()));
+  if (changes & forms::POINTER) {
+    widget->setCursor(cursor_of(window_.MousePointer(), window_.MouseIcon(), widget->devicePixelRatio()));
+  }
+  if ((changes & forms::LOOK) && widget->isVisible()) set_state();
+  if (changes & forms::VISIBLE) window_.is_visible() ? appear() : widget->hide();
+}
+
+void WindowPeer::wait_until_exposed() {
+  QElapsedTimer clock;
+  clock.start();
+  while (!handle()->isExposed() && clock.elapsed() < 100) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QThread::usleep(200);
+  }
+}
+
+void WindowPeer::paint_now() {
+  const Quiet quiet;
+  if (!widget || !widget->isVisible()) return;
+  if (!was_exposed_ && !handle()->isExposed()) {
+    wait_until_exposed();
+    QMetaObject::invokeMethod(this, &WindowPeer::follow, Qt::QueuedConnection);
+  }
+  QCoreApplication::sendPostedEvents(widget, QEvent::UpdateRequest);
+}
+
+void WindowPeer::take_focus() {
+  const Quiet quiet;
+  if (!widget) return;
+  widget->raise();
+  widget->activateWindow();
+}
+
+void WindowPeer::follow() {
+  if (!widget || !widget->isVisible() || !window_.is_visible() || Quiet::now()) return;
+  if (handle()->isExposed()) was_exposed_ = true;
+  const Qt::WindowStates s = widget->windowState();
+  const int state = s & Qt::WindowMinimized ? MINIMIZED : s & Qt::WindowMaximized ? MAXIMIZED : NORMAL;
+  if (!was_exposed_ || state == MINIMIZED) {
+    if (state != window_.WindowState()) user_event([&] { window_.state_changed(state); });
+    return;
+  }
+  const QMargins frame = handle()->frameMargins();
+  const QSize inside = widget->size();
+  at_ = handle()->framePosition();
+  user_event([&, at = at_] {
+    Window& w = window_;
+    w.state_changed(state);
+    if (state == NORMAL) {
+      const int frame_w = frame.left() + frame.right();
+      const int frame_h = frame.top() + frame.bottom();
+      if (has_real_frames() && (frame_w != w.frame_w() || frame_h != w.frame_h())) {
+        learn_frame(w, frame_w, frame_h);
+        if (inside != QSize(w.inside_w(), w.inside_h())) return;  // the new inside comes to the display now
+      }
+      if (at.x() != pixels(w.Left()) || at.y() != pixels(w.Top()))
+        w.placed(at.x() * forms::TWIPS, at.y() * forms::TWIPS);
+    }
+    w.inside(inside.width(), inside.height());
+  });
+}
+
+// What a box shows with AutoRedraw off is the program's to paint again.
+void WindowPeer::uncovered() {
+  user_event([this] {
+    Window& w = window_;
+    for (forms::Control* c : w.controls()) {
+      if (!w.Loaded() || c->kind != forms::Kind::picture || !c->is_visible()) continue;
+      auto* box = static_cast<forms::PictureBox*>(c);
+      if (!box->AutoRedraw()) box->Paint.fire(box->index);
+    }
+  });
+}
+
+// Enter and Escape go to the buttons that stand for them, then to the window; other keys to the control that has the
+// keyboard in the window, or in its owner if this one is a palette.
+void WindowPeer::key_pressed(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool escape = event->key() == Qt::Key_Escape;
+  if ((enter || escape) && event->type() == QEvent::KeyPress) {
+    for (forms::Control* c : window_.controls()) {
+      if (c->kind != forms::Kind::button || !forms::reachable(*c)) continue;
+      const auto* button = static_cast<forms::CommandButton*>(c);
+      if (enter ? button->is_default : button->is_cancel) return user_event([&] { button->Click.fire(button->index); });
+    }
+    if (window_.Form_KeyPress) return user_event([&] { window_.Form_KeyPress.fire(-1, enter ? 13 : 27); });
+  }
+  const Window* to = is_tool(window_) ? window_.owner() : &window_;
+  QWidget* target = to && forms::reachable(*to) ? keyboard_of(*to) : nullptr;
+  if (target) QCoreApplication::sendEvent(target, event);
+}
+
+bool is_input(const QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease: return true;
+    default: return false;
+  }
+}
+
+bool WindowPeer::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != widget) {  // the native window
+    if (event->type() == QEvent::Expose && handle()->isExposed()) {
+      QMetaObject::invokeMethod(
+          this, [this] { follow(), uncovered(); }, Qt::QueuedConnection);
+    }
+    return !window_.is_enabled() && is_input(event);
+  }
+  switch (event->type()) {
+    case QEvent::Close:
+      event->ignore();
+      if (forms::reachable(window_)) user_event([this] { window_.Unload(); });
+      return true;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowStateChange: follow(); return false;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease: key_pressed(static_cast<QKeyEvent*>(event)); return true;
+    default: return false;
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<forms::Peer> make_window_peer(Window& window) { return std::make_unique<WindowPeer>(window); }
+
+QWidget* widget_of(const Window& window) {
+  const WindowPeer* peer = peer_of(window);
+  return peer ? peer->widget : nullptr;
+}
+
+QWidget* keyboard_of(const Window& window) {
+  const WindowPeer* peer = peer_of(window);
+  return peer ? peer->keyboard : nullptr;
+}
+
+void set_keyboard(const Window& window, QWidget* widget) {
+  if (WindowPeer* peer = peer_of(window)) peer->keyboard = widget;
+}
+
+}  // namespace qt
