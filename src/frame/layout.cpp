@@ -1,4 +1,6 @@
 // What Form_Resize lays out, and the status line.
+#include <cstdio>
+
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
 #include "frame/usr_sub.h"
@@ -56,6 +58,22 @@ void show_position(double X, double Y) {
   if (STATUS_ON != 1) return;
   INF_POSX.Caption("X=" + text::Str(VIEW_ORG(1) + view_pixel(X)));
   INF_POSY.Caption("Y=" + text::Str(VIEW_ORG(2) + view_pixel(Y)));
+}
+
+void show_info(std::string_view text) {
+  if (STATUS_ON == 1) INF_SUB.Caption(text);
+}
+
+void show_size(int w, int h) {
+  char text[48];
+  std::snprintf(text, sizeof text, "Size X= %d Y= %d", w, h);
+  show_info(text);
+}
+
+void show_points_left() {
+  char text[32];
+  std::snprintf(text, sizeof text, "あと %d点", 256 - POLY_N);
+  show_info(text);
 }
 
 }  // namespace kiso::p_win

@@ -15,6 +15,7 @@ Array<int32_t, 1, 2> PT_DOT;
 Array<int32_t, 1, 2> BOX_MIN, BOX_MAX;
 int32_t DOWN_BUSY = 0, MOVE_BUSY = 0, UP_BUSY = 0;
 int16_t KEY_MOVED = 0;
+int16_t RUBBER_ON = 0;
 Array<Point, 0, 256> POLY_PTS;
 int32_t POLY_N = 0;
 Array<int32_t, 0, 256> POLY_COL;

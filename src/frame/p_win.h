@@ -2,6 +2,8 @@
 // controls are the ones that are known by their bare names.
 #pragma once
 
+#include <string_view>
+
 #include "frame/usr_def.h"
 
 namespace kiso {
@@ -52,17 +54,18 @@ inline Timer& Timer1 = P_WIN.Timer1;
 inline Timer& Timer2 = P_WIN.Timer2;
 
 // --- fields of the window. Points are DRAW pixels unless told otherwise; x is (1), y is (2).
-extern Colour COL_A, COL_B;                       // packed target and destination colour, taken at each left press
-extern Colour COL_XOR;                            // white, the pen of all rubber bands
-extern Array<int32_t, 1, 2> PT_START;             // press point
-extern Array<int32_t, 1, 4> PT_LAST;              // last point; 1 to 4 the rectangle of an ellipse's preview
-extern Array<int16_t, 1, 2> PT_CUR;               // pointer, rounded, kept at each press and move
-extern Array<int32_t, 1, 2> PT_DOT;               // pointer in picture pixels relative to the view
-extern Array<int32_t, 1, 2> BOX_MIN, BOX_MAX;     // rectangle touched by the dot tools
-extern int32_t DOWN_BUSY, MOVE_BUSY, UP_BUSY;     // guards: an event that finds its guard set returns at once
-extern int16_t KEY_MOVED;                         // 1: the last key was a move of the pointer
-extern Array<Point, 0, 256> POLY_PTS;             // vertices; the first four serve as the points of a curve
-extern int32_t POLY_N;                            // count of vertices
+extern Colour COL_A, COL_B;                    // packed target and destination colour, taken at each left press
+extern Colour COL_XOR;                         // white, the pen of all rubber bands
+extern Array<int32_t, 1, 2> PT_START;          // press point
+extern Array<int32_t, 1, 4> PT_LAST;           // last point; 1 to 4 the rectangle of an ellipse's preview
+extern Array<int16_t, 1, 2> PT_CUR;            // pointer, rounded, kept at each press and move
+extern Array<int32_t, 1, 2> PT_DOT;            // pointer in picture pixels relative to the view
+extern Array<int32_t, 1, 2> BOX_MIN, BOX_MAX;  // rectangle touched by the dot tools
+extern int32_t DOWN_BUSY, MOVE_BUSY, UP_BUSY;  // guards: an event that finds its guard set returns at once
+extern int16_t KEY_MOVED;                      // 1: the last key was a move of the pointer
+extern int16_t RUBBER_ON;              // 1: a rubber figure of a multi-click tool stands on DRAW; VIEW_REDRAW wipes it
+extern Array<Point, 0, 256> POLY_PTS;  // vertices; the first four serve as the points of a curve
+extern int32_t POLY_N;                 // count of vertices
 extern Array<int32_t, 0, 256> POLY_COL;           // colour of each vertex of a chain
 extern Array<int32_t, 1, 2> BEZ_P0, BEZ_P3;       // ends of the curve
 extern Array<int32_t, 1, 4> RECT_NEW, RECT_OLD;   // snapped rectangle at the press; last rubber rectangle
@@ -76,6 +79,10 @@ void RB_Click();
 void VIEW_SCROLL_SHOW();  // VIEW_REDRAW and the position labels
 // "X=" and "Y=" show the picture pixel under the DRAW pixel; nothing while the status line is off.
 void show_position(double X, double Y);
+// The free line of the status line; nothing while that is off.
+void show_info(std::string_view text);
+void show_size(int w, int h);  // "Size X= 12 Y= 3"
+void show_points_left();       // of the 256 that a polygon may have
 // Picture pixel of a DRAW pixel, relative to the view: rounded at rate 1, truncated above it.
 int view_pixel(double v);
 

@@ -60,6 +60,7 @@ void VIEW_FIT() {
 }
 
 void VIEW_REDRAW() {
+  RUBBER_ON = 0;
   if (EXP_RATE == 1) {
     BitBlt(DRAW, 0, 0, VIEW_DOT(1), VIEW_DOT(2), PIC, VIEW_ORG(1), VIEW_ORG(2));
   } else {

@@ -30,7 +30,7 @@ void toggle_palettes() {
 void cancel_stroke() {
   if (CUR_TOOL == 20002) CUR_TOOL = 20000;
   if (CUR_TOOL == 11102) CUR_TOOL = 11100;
-  INF_SUB.Caption(" ");
+  p_win::show_info(" ");
   Timer1.Interval(0);
   PEN_DOWN = 0;
   if (PREVIEW_ON == 1) DRAW.AutoRedraw(true);

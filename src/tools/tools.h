@@ -19,4 +19,67 @@ void spoit(float X, float Y);
 void zoom_press(float X, float Y);
 void zoom_release(float X, float Y);
 
+// shapes.cpp
+void line_press(float X, float Y);
+void line_drag(float X, float Y);
+void line_erase();
+void line_release(float X, float Y);
+void box_press(float X, float Y);
+void box_drag(float X, float Y);
+void box_release(float X, float Y);
+void area_press(float X, float Y);
+void area_drag(float X, float Y);
+void area_erase();
+void boxfill_release(float X, float Y);
+void reverse_release(float X, float Y);
+void circle_press(float X, float Y);
+void circlefill_press(float X, float Y);
+void circle_drag(float X, float Y);
+void circle_release(float X, float Y);
+void circlefill_release(float X, float Y);
+
+// chains.cpp
+void polygon_press(float X, float Y);
+void polygon_release(float X, float Y);
+void polygon_hover(float X, float Y);
+void polygon_next(float X, float Y);
+void polygon_double_click(float X, float Y);
+void chain_press(float X, float Y);
+void chain_release(float X, float Y);
+void chain_hover(float X, float Y);
+void chain_next(float X, float Y);
+void chain_double_click(float X, float Y);
+void bezier_release(float X, float Y);
+void bezier_end_hover(float X, float Y);
+void bezier_end_press(float X, float Y);
+void bezier_bend(float X, float Y);
+void bezier_press(float X, float Y);
+
+// fills.cpp
+void paint_a(float X, float Y);
+void paint_b(float X, float Y);
+
+// block_shapes.cpp: at expansion
+// WORK's rectangle, in picture pixels relative to the view and widened by the pen, goes through M_REDRAW to DRAW.
+void WORK_TO_VIEW(int x1, int y1, int x2, int y2);
+void snap_press(float X, float Y);
+void snap_drag(float X, float Y);
+void snap_erase();
+void block_boxfill_release(float X, float Y);
+void block_box_press(float X, float Y);
+void block_box_drag(float X, float Y);
+void block_box_release(float X, float Y);
+void block_line_press(float X, float Y);
+void block_line_drag(float X, float Y);
+void block_line_release(float X, float Y);
+void block_circle_press(float X, float Y);
+void block_circlefill_press(float X, float Y);
+void block_circle_drag(float X, float Y);
+void block_circle_release(float X, float Y);
+void block_circlefill_release(float X, float Y);
+void block_chain_release(float X, float Y);
+void block_chain_hover(float X, float Y);
+void block_chain_next(float X, float Y);
+void block_chain_close(float X, float Y);
+
 }  // namespace kiso

@@ -157,9 +157,9 @@ void ImageBox::back_to_design() {
 
 // --- label
 
-void Label::Caption(std::string text) {
+void Label::Caption(std::string_view text) {
   if (touched(), caption_ == text) return;
-  caption_ = std::move(text);
+  caption_ = text;
   fit();
   note(TEXT);
 }

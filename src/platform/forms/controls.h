@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/forms/window.h"
@@ -126,7 +127,7 @@ class Label : public Control, public PointerEvents {
  public:
   Label(Window& window, const char* name, int index = -1) : Control(window, Kind::label, name, index) {}
   const std::string& Caption() const { return touched(), caption_; }
-  void Caption(std::string text);
+  void Caption(std::string_view text);  // allocates nothing where the old text was as long
   bool AutoSize() const { return auto_size_; }
   void AutoSize(bool v) { auto_size_ = v; }  // the box takes the size of its text
   const Font& font() const { return font_; }
