@@ -171,6 +171,9 @@ TEST(IcoRead, PngThatCanNotBeRead) {
   EXPECT_EQ(error_of_png(ico({png(0, 2, 8, 6, 255)}), red_png), 481);
   EXPECT_EQ(error_of_png(ico({png(0x80000002, 2, 8, 6, 255)}), red_png), 481);
   EXPECT_EQ(error_of_png(ico({png(2, 2, 8, 5, 255)}), red_png), 481) << "no such kind";
+  Bytes shorter_told = bytes;
+  shorter_told[14] = 25;
+  EXPECT_EQ(error_of_png(shorter_told, red_png), 481) << "its header is 26 bytes";
   EXPECT_EQ(error_of_png(ico({png(20000, 20000, 8, 6, 255)}), red_png), 481) << "so few bytes can not hold it";
 }
 

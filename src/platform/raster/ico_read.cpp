@@ -118,7 +118,7 @@ Entry png_entry(const PictureBytes& bytes, uint64_t at, uint64_t told_size) {
   const Entry entry{
       big32(head + 16), big32(head + 20), channels * head[24], at, std::min(told_size, bytes.size - at), {}};
   const bool sides = entry.width > 0 && entry.width <= MAX_SIDE && entry.height > 0 && entry.height <= MAX_SIDE;
-  if (!sides || entry.bits == 0) throw RuntimeError(481);
+  if (!sides || entry.bits == 0 || entry.size < sizeof head) throw RuntimeError(481);
   if (entry.width * entry.bits / 8 * entry.height / DEFLATE_RATIO > static_cast<int64_t>(entry.size)) {
     throw RuntimeError(481);
   }
@@ -147,12 +147,13 @@ Surface decode_png(const PictureBytes& bytes, const Entry& entry, PngDecoder png
 Entry largest_entry(const PictureBytes& bytes, PngDecoder png) {
   uint8_t directory[DIRECTORY_BYTES];
   bytes.read(0, directory, sizeof directory);
+  const uint64_t there = (bytes.size - sizeof directory) / ENTRY_BYTES, told = little16(directory + 4);
   Entry best;
-  for (uint32_t i = 0; i < little16(directory + 4); ++i) {
+  for (uint64_t i = 0; i < std::min(told, there); ++i) {
     uint8_t row[ENTRY_BYTES];
+    bytes.read(DIRECTORY_BYTES + i * ENTRY_BYTES, row, sizeof row);
+    const uint64_t size = little32(row + 8), at = little32(row + 12);
     try {
-      bytes.read(DIRECTORY_BYTES + uint64_t{i} * ENTRY_BYTES, row, sizeof row);
-      const uint64_t size = little32(row + 8), at = little32(row + 12);
       const bool packed = is_png(bytes, at);
       if (packed && !png) continue;
       Entry entry = packed ? png_entry(bytes, at, size) : bitmap_entry(bytes, at);
