@@ -111,9 +111,8 @@ Surface read_bmp(const PictureBytes& bytes, int depth) {
   const Dib dib = read_dib(bytes, sizeof head, told);
   const uint64_t at = told > 0 ? told : dib.end;
   check_pixels(bytes, at, dib);
-  Surface picture(dib.width, dib.height, depth);
+  Surface picture = Surface::unpainted(dib.width, dib.height, depth);
   (dib.packing == Packing::none ? read_rows : read_run_lengths)(bytes, at, dib, picture);
-  picture.touch_all();
   return picture;
 }
 

@@ -86,7 +86,7 @@ void mask_on_white(const PictureBytes& bytes, const Dib& dib, Surface& s) {
 }
 
 Surface decode_bitmap(const PictureBytes& bytes, const Dib& dib) {
-  Surface s(dib.width, dib.height);
+  Surface s = Surface::unpainted(dib.width, dib.height);
   read_rows(bytes, dib.end, dib, s);
   if (dib.keep_alpha && any_alpha(s)) {
     blend_on_white(s);
@@ -134,7 +134,7 @@ Surface decode_png(const PictureBytes& bytes, const Entry& entry, PngDecoder png
       picture.bgra.size() != 4 * static_cast<size_t>(entry.width) * static_cast<size_t>(entry.height)) {
     throw RuntimeError(481);
   }
-  Surface s(picture.width, picture.height);
+  Surface s = Surface::unpainted(picture.width, picture.height);
   const uint8_t* bgra = picture.bgra.data();
   for (int y = 0; y < s.height(); ++y) {
     for (int x = 0; x < s.width(); ++x, bgra += 4) s.row32(y)[x] = on_white(little32(bgra));
@@ -172,11 +172,10 @@ Surface read_ico(const PictureBytes& bytes, int depth, PngDecoder png) {
   const Entry entry = largest_entry(bytes, png);
   Surface picture = entry.dib ? decode_bitmap(bytes, *entry.dib) : decode_png(bytes, entry, png);
   if (depth != 32) {
-    Surface other(picture.width(), picture.height(), depth);
+    Surface other = Surface::unpainted(picture.width(), picture.height(), depth);
     BitBlt(other, 0, 0, picture.width(), picture.height(), picture, 0, 0);
     picture = std::move(other);
   }
-  picture.touch_all();
   return picture;
 }
 

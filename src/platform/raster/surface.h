@@ -45,6 +45,8 @@ class Surface {
   Surface& operator=(const Surface&) = delete;
   Surface(Surface&&) noexcept = default;
   Surface& operator=(Surface&&) noexcept = default;
+  // Its pixels are anything until they are written: for whoever writes them all.
+  static Surface unpainted(int width, int height, int depth = 32);
 
   // What lies in both sizes stays, the rest takes the colour back. Memory is kept when the new size fits and is not
   // much smaller, so that a work surface may change its size at every use.
@@ -78,6 +80,7 @@ class Surface {
   struct FreeBits {
     void operator()(uint8_t* p) const;
   };
+  void reshape(int width, int height);  // what lies in both sizes stays, the rest is anything
   std::unique_ptr<uint8_t[], FreeBits> bits_;
   size_t capacity_ = 0;
   ptrdiff_t stride_ = 0;
