@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   constexpr int DEPTHS[] = {32, 32, 24, 16, 8};
   try {
     const raster::PictureBytes bytes{size, data, -1};
-    const raster::Surface s = raster::read_picture(bytes, DEPTHS[size % std::size(DEPTHS)], size % 3 ? decode : nullptr);
+    const raster::Surface s =
+        raster::read_picture(bytes, DEPTHS[size % std::size(DEPTHS)], size % 3 ? decode : nullptr);
     if (s.width() < 1 || s.height() < 1) std::abort();
     for (int y = 0; y < s.height() && s.depth() == 32; ++y) {
       if (s.row32(y)[0] >> 24 != 0xFF || s.row32(y)[s.width() - 1] >> 24 != 0xFF) std::abort();

@@ -100,7 +100,7 @@ TEST(BmpRunLengths, EmptyRowsAreAPicture) {
   const Surface ended = read(rle8(1000, 1000, {0, 1}).bmp());
   EXPECT_EQ(GetPixel(ended, 999, 0), K);
   // More than the size that is never doubted: every row is ended by its own mark, and that must do.
-  Bytes marks(2 * 513, 0);
+  Bytes marks(size_t{2} * 513, 0);
   append(marks, {0, 1});
   const Surface rows = read(rle8(32767, 513, marks).bmp(), 8);
   EXPECT_EQ(rows.height(), 513);

@@ -212,14 +212,14 @@ TEST_F(BmpSave, ProtectedFolderAndProtectedFile) {
   ASSERT_EQ(chmod(in("a.bmp").c_str(), 0666), 0);
   ASSERT_EQ(chmod(folder.c_str(), 0555), 0);
   {
-    const Somebody else_;
+    const Somebody else_user;
     EXPECT_EQ(error_of_save(noise(3, 3), in("a.bmp")), 70);
     EXPECT_EQ(error_of_save(noise(3, 3), in("b.bmp")), 70);
   }
   ASSERT_EQ(chmod(in("a.bmp").c_str(), 0444), 0);
   ASSERT_EQ(chmod(folder.c_str(), 0777), 0);
   {
-    const Somebody else_;
+    const Somebody else_user;
     EXPECT_EQ(error_of_save(noise(3, 3), in("a.bmp")), 70);
   }
   EXPECT_EQ(content(in("a.bmp")), OLD);
@@ -254,7 +254,7 @@ TEST_F(PictureLoad, PathsThatCanNotBe) {
   EXPECT_EQ(error_of_load(in("pipe")), 75) << "and does not wait for a writer";
   ASSERT_EQ(chmod(in("file").c_str(), 0), 0);
   ASSERT_EQ(chmod(folder.c_str(), 0755), 0);
-  const Somebody else_;
+  const Somebody else_user;
   EXPECT_EQ(error_of_load(in("file")), 70);
 }
 

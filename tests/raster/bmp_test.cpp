@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
 #include "platform/raster/bmp_pack.h"
@@ -17,7 +18,7 @@ const std::vector<uint32_t> FOUR_COLOURS = {K, R, G, B};
 DibFile two_by_two() { return {.width = 2, .height = 2, .pixels = TWO_BY_TWO}; }
 
 // The bits of a value that a field of n bits can hold, spread over 0 to 255.
-uint32_t spread(uint32_t value, uint32_t full) { return static_cast<uint32_t>(value * 255.0 / full + 0.5); }
+uint32_t spread(uint32_t value, uint32_t full) { return static_cast<uint32_t>(std::lround(value * 255.0 / full)); }
 
 // One pixel of 16 or 32 bits.
 uint32_t pixel_of(uint32_t bits, uint32_t value, const std::vector<uint32_t>& masks) {
@@ -92,7 +93,7 @@ TEST(BmpRead, HeadersOfEveryLength) {
 TEST(BmpRead, OldestHeaderHasPalettesOfThreeBytes) {
   const DibFile file{.width = 3, .bits = 4, .pixels = {0x12, 0x30, 0, 0}, .palette = FOUR_COLOURS, .length = 12};
   EXPECT_EQ(picture_of(file.bmp()), (Picture{{R, G, B}}));
-  DibFile upright{.width = 1, .height = 65535, .bits = 1, .pixels = Bytes(65535 * 4), .length = 12};
+  DibFile upright{.width = 1, .height = 65535, .bits = 1, .pixels = Bytes(size_t{65535} * 4), .length = 12};
   EXPECT_EQ(error_of(upright.bmp()), 481) << "its sides have no sign, so this is no picture from the top down";
 }
 
@@ -219,7 +220,7 @@ TEST(BmpRead, SidesThatCanNotBeAreInvalid) {
   }
   const DibFile widest{.width = 32767, .bits = 1, .pixels = Bytes(4096, 255), .palette = {K, R}};
   EXPECT_EQ(picture_of(widest.bmp()), (Picture{std::vector<uint32_t>(32767, R)}));
-  const DibFile tallest{.height = 32767, .bits = 1, .pixels = Bytes(4 * 32767, 255), .palette = {K, R}};
+  const DibFile tallest{.height = 32767, .bits = 1, .pixels = Bytes(size_t{4} * 32767, 255), .palette = {K, R}};
   EXPECT_EQ(picture_of(tallest.bmp()), Picture(32767, {R}));
 }
 

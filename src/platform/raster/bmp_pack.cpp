@@ -1,5 +1,7 @@
 #include "platform/raster/bmp_pack.h"
 
+#include <cstddef>
+
 #if defined(__x86_64__)
 #include <immintrin.h>
 #endif
@@ -63,12 +65,12 @@ static bool has_avx2() { return false; }
 
 void expand_24(const uint8_t* bgr, uint32_t* pixels, int n) {
   const int done = has_avx2() ? expand_24_avx2(bgr, pixels, n) : 0;
-  expand_24_plain(bgr + 3 * done, pixels + done, n - done);
+  expand_24_plain(bgr + ptrdiff_t{3} * done, pixels + done, n - done);
 }
 
 void pack_24(const uint32_t* pixels, uint8_t* bgr, int n) {
   const int done = has_avx2() ? pack_24_avx2(pixels, bgr, n) : 0;
-  pack_24_plain(pixels + done, bgr + 3 * done, n - done);
+  pack_24_plain(pixels + done, bgr + ptrdiff_t{3} * done, n - done);
 }
 
 }  // namespace raster

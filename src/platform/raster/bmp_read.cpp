@@ -10,7 +10,7 @@ namespace raster {
 
 namespace {
 
-constexpr size_t STRIP_BYTES = 256 * 1024;  // stays in the cache between the read and the decoding
+constexpr size_t STRIP_BYTES = size_t{256} << 10;  // stays in the cache between the read and the decoding
 
 using DecodeRow = void (*)(const Dib& dib, const uint8_t* bytes, uint32_t* pixels);
 
@@ -35,7 +35,7 @@ void row_24(const Dib& dib, const uint8_t* bytes, uint32_t* pixels) { expand_24(
 
 void row_32(const Dib& dib, const uint8_t* bytes, uint32_t* pixels) {
   const uint32_t set = dib.keep_alpha ? 0 : 0xFF000000u;
-  for (int x = 0; x < dib.width; ++x) pixels[x] = little32(bytes + 4 * x) | set;
+  for (int x = 0; x < dib.width; ++x, bytes += 4) pixels[x] = little32(bytes) | set;
 }
 
 DecodeRow decoder_of(const Dib& dib) {
@@ -53,7 +53,7 @@ DecodeRow decoder_of(const Dib& dib) {
 // Run lengths can leave a whole row out with two bytes, so a byte may stand for this many pixels of the widest picture.
 constexpr uint64_t PIXELS_PER_BYTE = (MAX_SIDE + 1) / 2;
 // Few bytes may also end a picture early or jump far down, so a size that is common is never doubted.
-constexpr uint64_t UNDOUBTED_PIXELS = 4096 * 4096;
+constexpr uint64_t UNDOUBTED_PIXELS = uint64_t{4096} * 4096;
 
 }  // namespace
 

@@ -109,7 +109,7 @@ void set_palette(Dib& dib, const Header& header, const PictureBytes& bytes, uint
   dib.end += entries * entry_bytes;
   dib.colours.fill(0xFF000000);
   if (dib.bits > 8) return;
-  std::array<uint8_t, 4 * 256> raw;
+  std::array<uint8_t, 1024> raw;
   const size_t used = std::min<size_t>(entries, size_t{1} << dib.bits);
   bytes.read(begin, raw.data(), used * entry_bytes);
   for (size_t i = 0; i < used; ++i) {

@@ -12,7 +12,7 @@ namespace {
 class ByteStream {
  public:
   ByteStream(const PictureBytes& bytes, uint64_t at)
-      : bytes_(bytes), at_(at), buffer_(static_cast<size_t>(std::min<uint64_t>(64 * 1024, bytes.size - at))) {}
+      : bytes_(bytes), at_(at), buffer_(static_cast<size_t>(std::min<uint64_t>(65536, bytes.size - at))) {}
   bool at_end() const { return next_ == filled_ && at_ == bytes_.size; }
   uint8_t next() {
     if (next_ == filled_) fill();

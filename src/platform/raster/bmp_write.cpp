@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr size_t STRIP_BYTES = 256 * 1024;  // stays in the cache between packing and writing
+constexpr size_t STRIP_BYTES = size_t{256} << 10;  // stays in the cache between packing and writing
 constexpr size_t HEADER_BYTES = 54;
 
 fs::path end_of_links(fs::path path) {
@@ -132,8 +132,8 @@ class RowSource {
 
 void save_bmp(const Surface& s, const std::string& path) try {
   if (s.width() == 0 || s.height() == 0) throw RuntimeError(481);
-  const size_t row_bytes = (static_cast<size_t>(s.width()) * 3 + 3) / 4 * 4;
-  std::vector<uint8_t> strip(std::max(STRIP_BYTES, HEADER_BYTES + row_bytes));  // zeros, so that padding is 0
+  const size_t pixel_bytes = static_cast<size_t>(s.width()) * 3, row_bytes = (pixel_bytes + 3) / 4 * 4;
+  std::vector<uint8_t> strip(std::max(STRIP_BYTES, HEADER_BYTES + row_bytes));
   put_header(strip.data(), s, row_bytes);
   size_t filled = HEADER_BYTES;
   RowSource rows(s);
@@ -143,9 +143,9 @@ void save_bmp(const Surface& s, const std::string& path) try {
       file.write(strip.data(), filled);
       filled = 0;
     }
-    pack_24(rows.row(y), &strip[filled], s.width());
-    std::fill(strip.begin() + static_cast<ptrdiff_t>(filled) + s.width() * 3,
-              strip.begin() + static_cast<ptrdiff_t>(filled + row_bytes), uint8_t{0});
+    uint8_t* row = &strip[filled];
+    pack_24(rows.row(y), row, s.width());
+    std::fill(row + pixel_bytes, row + row_bytes, uint8_t{0});
     filled += row_bytes;
   }
   file.write(strip.data(), filled);

@@ -102,7 +102,7 @@ constexpr uint8_t PNG_START[16] = {0x89, 'P', 'N', 'G', 13, 10, 26, 10, 0, 0, 0,
 constexpr size_t PNG_HEADER_BYTES = 26;  // up to the colour type
 constexpr int64_t DEFLATE_RATIO = 1032;  // bytes that one packed byte can unfold to at most
 
-int64_t big32(const uint8_t* p) { return int64_t{p[0]} << 24 | p[1] << 16 | p[2] << 8 | p[3]; }
+int64_t big32(const uint8_t* p) { return int64_t{p[0]} << 24 | int64_t{p[1]} << 16 | int64_t{p[2]} << 8 | p[3]; }
 
 bool is_png(const PictureBytes& bytes, uint64_t at) {
   uint8_t start[sizeof PNG_START];
@@ -116,7 +116,7 @@ Entry png_entry(const PictureBytes& bytes, uint64_t at, uint64_t told_size) {
   bytes.read(at, head, sizeof head);
   const int channels = head[25] < std::size(CHANNELS) ? CHANNELS[head[25]] : 0;
   const Entry entry{
-      big32(head + 16), big32(head + 20), channels * head[24], at, std::min(told_size, bytes.size - at), {}};
+      big32(head + 16), big32(head + 20), int64_t{channels} * head[24], at, std::min(told_size, bytes.size - at), {}};
   const bool sides = entry.width > 0 && entry.width <= MAX_SIDE && entry.height > 0 && entry.height <= MAX_SIDE;
   if (!sides || entry.bits == 0 || entry.size < sizeof head) throw RuntimeError(481);
   if (entry.width * entry.bits / 8 * entry.height / DEFLATE_RATIO > static_cast<int64_t>(entry.size)) {
@@ -157,7 +157,7 @@ Entry largest_entry(const PictureBytes& bytes, PngDecoder png) {
       const bool packed = is_png(bytes, at);
       if (packed && !png) continue;
       Entry entry = packed ? png_entry(bytes, at, size) : bitmap_entry(bytes, at);
-      if (entry.rank() > best.rank()) best = std::move(entry);
+      if (entry.rank() > best.rank()) best = entry;
     } catch (const RuntimeError& error) {
       if (error.number != 481) throw;  // an entry that is broken does not spoil the others
     }
