@@ -1,0 +1,7 @@
+// KISO72: the editor on the desktop. The whole command line is one picture file name.
+#include <string>
+
+#include "frame/usr_sub.h"
+#include "platform/qt/desktop.h"
+
+int main(int argc, char** argv) { return qt::run_desktop(argc, argv, kiso::START_PROGRAM); }
