@@ -5,6 +5,7 @@
 #include "frame/usr_sub.h"
 #include "palette/cmd_click.h"
 #include "palette/palette_table.h"
+#include "platform/text/text.h"
 
 namespace kiso {
 
@@ -35,13 +36,14 @@ void design_pen_and_undo() {
   CMD_WIN.PenSizeLabel.Caption("PenSize");
   CMD_WIN.PEN_SZ.design(62, 133, 38, 15);
   CMD_WIN.PEN_SZ.align = Label::Align::right;
-  CMD_WIN.PEN_SZ.Caption(" 1");
+  CMD_WIN.PEN_SZ.Caption(text::Str(PEN_SIZE));
   CMD_WIN.PEN_SZ_SB.design(4, 150, 96, 16);
-  CMD_WIN.PEN_SZ_SB.range(1, 33, 1, 1, 4);
+  CMD_WIN.PEN_SZ_SB.range(1, 33, PEN_SIZE, 1, 4);
   CMD_WIN.PEN_SZ_SB.accessible_name = "PenSize";
   CMD_WIN.PEN_SZ_SB.ToolTip("PenSize  ペンの太さ (PageUp, PageDown)");
   CMD_WIN.UNDO.design(4, 172, 96, 24);
   CMD_WIN.UNDO.Caption("UNDO");
+  CMD_WIN.UNDO.Enabled(UNDO_READY == 1);
   CMD_WIN.UNDO.accessible_name = "UNDO";
   CMD_WIN.UNDO.ToolTip("UNDO  元に戻す (Space)");
 }

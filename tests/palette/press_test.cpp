@@ -31,6 +31,24 @@ TEST_F(Palette, LeavesItsPlaceForTheSettings) {
   EXPECT_EQ(CMD_TOP, 3000);
 }
 
+TEST_F(Palette, ClosedByItsFrameItComesBackWithPenAndUndoAsTheyAre) {
+  stage::pen(7);
+  click(CMD_WIN.CMD_B(0));
+  stage::click(20, 20);
+  click(CMD_WIN.ROOT_B(4));
+  enter([] { CMD_WIN.Unload(); });
+  stage::press(20, 20, RIGHT);  // palettes away
+  stage::release(20, 20, RIGHT);
+  stage::press(20, 20, RIGHT);  // and back
+  EXPECT_TRUE(CMD_WIN.Visible());
+  EXPECT_EQ(CMD_WIN.PEN_SZ.Caption(), " 7");
+  EXPECT_EQ(CMD_WIN.PEN_SZ_SB.Value(), 7);
+  EXPECT_TRUE(CMD_WIN.UNDO.Enabled());
+  EXPECT_EQ(pressed(CMD_WIN.ROOT_B), Pressed{0});
+  EXPECT_TRUE(in_front(CMD_WIN.ROOT_M(0)));
+  EXPECT_FALSE(CMD_WIN.ROOT_M(4).Visible());
+}
+
 TEST_F(Palette, AGroupButtonOpensItsPanelAlone) {
   for (int k : {3, 6, 1, 2, 4, 5, 0}) {
     click(CMD_WIN.ROOT_B(k));
