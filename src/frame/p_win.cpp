@@ -47,6 +47,7 @@ void design_p_win() {
   for (PictureBox* as_draw : {&UNDO, &M_REDRAW}) as_draw->design(0, 0, 640, 480);  // a view of this size never resizes
   for (PictureBox* sized_per_use : {&WORK2, &WORK3, &WORK4}) sized_per_use->design(0, 0, 1, 1);
   for (PictureBox* hidden : {&PIC, &UNDO, &M_REDRAW, &WORK2, &WORK3, &WORK4}) hidden->Visible(false);
+  for (PictureBox* paper : {&PIC, &DRAW, &WORK, &UNDO, &M_REDRAW}) paper->BackColor(WHITE);
   X_SC.design(0, 600 - BAR, 800 - BAR, BAR);
   Y_SC.design(800 - BAR, 0, BAR, 600 - BAR);
   X_SC.range(0, 0, 0, 1, 1);

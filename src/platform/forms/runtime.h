@@ -53,7 +53,8 @@ bool enter_raw(void (*run)(void*), void* with);
 // process. When the outermost one returns, what has changed goes to the screen. False if the program has ended.
 template <class F>
 bool enter(F&& procedure) {
-  return enter_raw([](void* f) { (*static_cast<std::remove_reference_t<F>*>(f))(); }, &procedure);
+  return enter_raw([](void* f) { (*static_cast<std::remove_reference_t<F>*>(f))(); },
+                   const_cast<void*>(static_cast<const void*>(&procedure)));
 }
 bool has_ended();
 // Number of the error that ended the program, 0 if none did.

@@ -6,6 +6,7 @@
 
 #include "platform/qt/application.h"
 #include "platform/qt/boxes.h"
+#include "platform/qt/images.h"
 #include "platform/qt/look.h"
 #include "platform/qt/nominal_frame.h"
 #include "platform/qt/peer.h"
@@ -22,6 +23,7 @@ QtDesktop::QtDesktop(int& argc, char** argv, bool offscreen)
   screen_w = screen->size().width();
   screen_h = screen->size().height();
   depth = pixel_depth(screen->depth());
+  png = decode_png;
   const QSize frame = nominal_frame();
   frame_w = frame.width();
   frame_h = frame.height();

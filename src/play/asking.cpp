@@ -1,0 +1,63 @@
+// Pictures that go out, and questions that print their answer.
+#include "frame/usr_sub.h"
+#include "platform/qt/images.h"
+#include "platform/text/text.h"
+#include "play/names.h"
+#include "play/pictures.h"
+#include "play/player.h"
+
+namespace play {
+
+namespace {
+
+bool ends_with(const std::string& name, const std::string& ending) {
+  return text::Right(text::UPPER_ASCII(name), static_cast<int>(ending.size())) == ending;
+}
+
+void dump(const Args& args) {
+  const raster::Surface& image = surface_named(args[0]).Image();
+  try {
+    if (ends_with(args[1], ".PNG")) {
+      if (!qt::save_png(image, args[1])) throw ScriptError("can not write " + args[1]);
+    } else {
+      raster::save_bmp(image, args[1]);
+    }
+  } catch (const RuntimeError& e) {
+    throw ScriptError("can not write " + args[1] + ": " + e.what());
+  }
+}
+
+void pixel(const Args& args) {
+  player.say(pixel_text(surface_named(args[0]), whole_number(args[1]), whole_number(args[2])));
+}
+
+void get(const Args& args) {
+  for (const std::string& name : args) player.say(name + " " + value_of(name));
+}
+
+void call(const Args& args) {
+  const std::string results = call_procedure(args[0], Args(args.begin() + 1, args.end()));
+  player.say(results.empty() ? args[0] : args[0] + " " + results);
+}
+
+void log(const Args& args) {
+  if (!is_log(args[0])) throw ScriptError("unknown record " + args[0]);
+  for (const std::string& entry : take_log(args[0])) player.say(entry);
+}
+
+}  // namespace
+
+std::string pixel_text(const raster::Surface& surface, int x, int y) {
+  const raster::Colour c = GetPixel(surface, x, y);
+  if (c == raster::CLR_INVALID) return "outside";
+  return std::to_string(c & 0xFF) + " " + std::to_string(c >> 8 & 0xFF) + " " + std::to_string(c >> 16 & 0xFF);
+}
+
+std::vector<Command> asking_commands() {
+  return {
+      {"dump", 2, 2, true, dump},  {"pixel", 3, 3, true, pixel}, {"get", 1, -1, false, get},
+      {"call", 1, -1, true, call}, {"log", 1, 1, false, log},
+  };
+}
+
+}  // namespace play

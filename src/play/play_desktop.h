@@ -1,0 +1,25 @@
+// The display of a script's run: the real windows on a display in memory, where boxes take their answers from a queue
+// and no time passes by itself.
+#pragma once
+
+#include "platform/qt/desktop.h"
+
+namespace play {
+
+class PlayDesktop : public qt::QtDesktop {
+ public:
+  PlayDesktop(int& argc, char** argv);
+
+  std::unique_ptr<forms::Peer> show(forms::Control& control) override;  // a timer has no peer: it ticks when told
+  using QtDesktop::show;
+  int message_box(const std::string& text, int style, const std::string& title) override;
+  void error_box(int number, const std::string& text) override;
+  void do_events() override;
+  void beep() override;
+  void quit() override;
+  void pointer_move(int dx, int dy) override;
+  void pointer_button(bool down) override;
+  void record(const char* kind, const std::string& entry) override;
+};
+
+}  // namespace play

@@ -1,0 +1,121 @@
+// Start and end of the program, files of its directory, answers to its questions.
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "frame/p_win.h"
+#include "frame/usr_sub.h"
+#include "play/names.h"
+#include "play/options.h"
+#include "play/player.h"
+
+namespace play {
+
+namespace fs = std::filesystem;
+using namespace kiso;  // NOLINT(google-build-using-namespace)
+
+namespace {
+
+void start(const Args& args) {
+  if (player.started) throw ScriptError("start comes once");
+  player.started = true;
+  const std::string command_line = args.empty() ? "" : args[0];
+  enter([&] { START_PROGRAM(command_line); });
+}
+
+void view(const Args& args) {
+  const int w = whole_number(args[0]) + static_cast<int>(DRAW.left_px() + 2 + Y_SC.width_px());
+  int h = whole_number(args[1]) + static_cast<int>(DRAW.top_px() + 2 + X_SC.height_px());
+  if (STATUS_ON == 1) h += STATUS_H;
+  enter([&] { P_WIN.inside(w, h); });
+}
+
+void inside(const Args& args) {
+  forms::Window& window = window_named(args[0]);
+  const int w = whole_number(args[1]);
+  const int h = whole_number(args[2]);
+  if (reachable(window)) {
+    enter([&] { window.inside(w, h); });
+  } else {
+    player.say("ignored " + args[0]);
+  }
+}
+
+void close(const Args& /*args*/) {
+  enter([] { P_WIN.Unload(); });
+}
+
+void end(const Args& /*args*/) { player.stopped = true; }
+
+void option(const Args& args) {
+  if (player.started) throw ScriptError("option comes before start");
+  if (!take_option(args[0], args[1])) throw ScriptError("unknown option " + args[0]);
+}
+
+// --- files
+
+void fail_if(bool failed, const std::string& what) {
+  if (failed) throw ScriptError(what);
+}
+
+void copy(const Args& args) {
+  std::error_code failed;
+  fs::copy_file(args[0], args[1], fs::copy_options::overwrite_existing, failed);
+  fail_if(static_cast<bool>(failed), "can not copy " + args[0] + " to " + args[1]);
+}
+
+void remove(const Args& args) {
+  std::error_code failed;
+  fs::remove_all(args[0], failed);
+}
+
+void write_lines(const Args& args, const char* line_end) {
+  std::ofstream file(args[0], std::ios::binary | std::ios::trunc);
+  for (size_t i = 1; i < args.size(); ++i) file << args[i] << line_end;
+  file.close();
+  fail_if(!file, "can not write " + args[0]);
+}
+void write(const Args& args) { write_lines(args, "\r\n"); }
+void write_unix(const Args& args) { write_lines(args, "\n"); }
+
+void exec(const Args& args) {
+  std::error_code failed;
+  fs::permissions(args[0], fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec,
+                  fs::perm_options::add, failed);
+  fail_if(static_cast<bool>(failed), "can not make executable: " + args[0]);
+}
+
+// --- questions
+
+struct AnswerWord {
+  const char* word;
+  int number;
+};
+constexpr AnswerWord ANSWER_WORDS[] = {{"ok", 1}, {"cancel", 2}, {"yes", 6}, {"no", 7}};
+
+void answer(const Args& args) {
+  for (const std::string& arg : args) {
+    bool known = false;
+    for (const AnswerWord& a : ANSWER_WORDS) {
+      if (arg != a.word) continue;
+      player.answers.push_back(a.number);
+      known = true;
+    }
+    if (!known) throw ScriptError("unknown answer " + arg);
+  }
+}
+
+}  // namespace
+
+std::vector<Command> program_commands() {
+  return {
+      {"start", 0, 1, false, start},  {"view", 2, 2, true, view},
+      {"inside", 3, 3, true, inside}, {"close", 0, 0, true, close},
+      {"end", 0, 0, false, end},      {"option", 2, 2, false, option},
+      {"copy", 2, 2, false, copy},    {"remove", 1, 1, false, remove},
+      {"write", 1, -1, false, write}, {"write-unix", 1, -1, false, write_unix},
+      {"exec", 1, 1, false, exec},    {"answer", 1, -1, false, answer},
+  };
+}
+
+}  // namespace play

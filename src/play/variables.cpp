@@ -1,0 +1,184 @@
+#include "play/variables.h"
+
+#include "frame/cmd_win.h"
+#include "frame/p_win.h"
+#include "play/script.h"
+
+namespace play {
+
+using namespace kiso;  // NOLINT(google-build-using-namespace)
+
+namespace {
+
+using At = std::span<const int>;
+
+#define PLAIN(name)                                \
+  {                                                \
+#name, 0, [](At) -> Variable { return &name; } \
+  }
+#define FIELD(window, name, variable)                                     \
+  {                                                                       \
+#window "." #name, 0, [](At) -> Variable { return &window.variable; } \
+  }
+#define ROW(name)                                          \
+  {                                                        \
+#name, 1, [](At i) -> Variable { return &name(i[0]); } \
+  }
+
+constexpr VariableRow VARIABLES[] = {
+    // program
+    PLAIN(LOADING_FLAG),
+    PLAIN(QUIT_NOW),
+    PLAIN(FORM_CLOSING),
+    PLAIN(APP_PATH),
+    PLAIN(APP_TITLE),
+    PLAIN(PIC_FILE),
+    PLAIN(PAL_SHOWN),
+    // view
+    ROW(PIC_SIZE),
+    PLAIN(EXP_RATE),
+    ROW(VIEW_ORG),
+    ROW(VIEW_PIX),
+    ROW(VIEW_DOT),
+    PLAIN(STATUS_ON),
+    PLAIN(STATUS_H),
+    PLAIN(PREVIEW_ON),
+    // tool
+    PLAIN(CUR_TOOL),
+    PLAIN(PREV_TOOL),
+    PLAIN(EXP_TOOL),
+    PLAIN(PEN_SIZE),
+    PLAIN(PEN_DOWN),
+    PLAIN(STROKE_STATE),
+    PLAIN(UNDO_READY),
+    PLAIN(ROOT_GROUP),
+    PLAIN(EXP_GROUP),
+    // colours
+    PLAIN(TAR_R),
+    PLAIN(TAR_G),
+    PLAIN(TAR_B),
+    PLAIN(DES_R),
+    PLAIN(DES_G),
+    PLAIN(DES_B),
+    PLAIN(CUR_R),
+    PLAIN(CUR_G),
+    PLAIN(CUR_B),
+    PLAIN(COL_TARGET),
+    PLAIN(COL_PANE),
+    PLAIN(COL_RGB_LOCK),
+    PLAIN(COL_HSV_LOCK),
+    ROW(DICT_NAME),
+    {"DICT_COL", 3, [](At i) -> Variable { return &DICT_COL(i[0])(i[1])(i[2]); }},
+    PLAIN(DICT_CUR),
+    PLAIN(DICT_WRITE),
+    // parameters of the colour tools
+    PLAIN(FUZZY_H),
+    PLAIN(FUZZY_S),
+    PLAIN(FUZZY_V),
+    PLAIN(SPRAY_MS),
+    PLAIN(HSET_V),
+    PLAIN(DEEP_BAL),
+    PLAIN(FUZZY_ON),
+    PLAIN(SPRAY_ON),
+    PLAIN(HSET_ON),
+    PLAIN(DEEP_ON),
+    // settings
+    PLAIN(POS_RESTORE),
+    PLAIN(COL_LEFT),
+    PLAIN(COL_TOP),
+    PLAIN(CMD_LEFT),
+    PLAIN(CMD_TOP),
+    PLAIN(BIRD_TOP),
+    PLAIN(BIRD_LEFT),
+    PLAIN(BIRD_W),
+    PLAIN(BIRD_H),
+    PLAIN(BIRD_ON),
+    PLAIN(BIRD_AUTO),
+    PLAIN(BIRD_REWRITE),
+    PLAIN(VDMD),
+    PLAIN(LUPE_LEFT),
+    PLAIN(LUPE_TOP),
+    PLAIN(LUPE_ON),
+    PLAIN(STRETCH_OK),
+    PLAIN(RELOAD_MODE),
+    PLAIN(DROP_KEEP),
+    PLAIN(ACHK_KEEP),
+    ROW(LAUNCH_EXE),
+    ROW(LAUNCH_BACK),
+    PLAIN(AUTOSAVE_DEST),
+    PLAIN(AUTOSAVE_MIN),
+    PLAIN(AUTOSAVE_LEFT),
+    PLAIN(MERGE_CHECK),
+    PLAIN(RCLICK_PICK),
+    PLAIN(LINE_MODE),
+    PLAIN(PRT_REDISP),
+    // fields of P_WIN
+    PLAIN(COL_A),
+    PLAIN(COL_B),
+    PLAIN(COL_XOR),
+    ROW(PT_START),
+    ROW(PT_LAST),
+    ROW(PT_CUR),
+    ROW(PT_DOT),
+    ROW(BOX_MIN),
+    ROW(BOX_MAX),
+    PLAIN(DOWN_BUSY),
+    PLAIN(MOVE_BUSY),
+    PLAIN(UP_BUSY),
+    PLAIN(KEY_MOVED),
+    ROW(POLY_PTS),
+    {"POLY_PTS", 2, [](At i) -> Variable { return i[1] == 1 ? &POLY_PTS(i[0]).x : &POLY_PTS(i[0]).y; }},
+    PLAIN(POLY_N),
+    ROW(POLY_COL),
+    ROW(BEZ_P0),
+    ROW(BEZ_P3),
+    ROW(RECT_NEW),
+    ROW(RECT_OLD),
+    PLAIN(AREA_DX),
+    PLAIN(AREA_DY),
+    PLAIN(AREA_W),
+    PLAIN(AREA_H),
+    // fields of CMD_WIN; the pressed button of a group bears the group's name
+    FIELD(CMD_WIN, CMD_B, CMD_B_pressed),
+    FIELD(CMD_WIN, EDIT_B, EDIT_B_pressed),
+    FIELD(CMD_WIN, EXP_M1, EXP_M1_pressed),
+    FIELD(CMD_WIN, EXP_M2, EXP_M2_pressed),
+    FIELD(CMD_WIN, BTN_RIGHT, BTN_RIGHT),
+    FIELD(CMD_WIN, FILE_B_RIGHT, FILE_B_RIGHT)};
+
+#undef PLAIN
+#undef FIELD
+#undef ROW
+
+template <class... F>
+struct Cases : F... {
+  using F::operator()...;
+};
+
+}  // namespace
+
+const VariableRow* find_variable(std::string_view name, int indices) {
+  for (const VariableRow& row : VARIABLES) {
+    if (row.name == name && row.indices == indices) return &row;
+  }
+  return nullptr;
+}
+
+std::string print(const Variable& variable) {
+  return std::visit(Cases{[](const std::string* s) { return *s; },
+                          [](const raster::Point* p) { return number_text(p->x) + " " + number_text(p->y); },
+                          [](const auto* number) { return number_text(static_cast<double>(*number)); }},
+                    variable);
+}
+
+void assign(const Variable& variable, const std::string& value) {
+  std::visit(Cases{[&](std::string* s) { *s = value; },
+                   [](const raster::Point* /*p*/) { throw ScriptError("a point is set by its coordinates"); },
+                   [&](int16_t* n) { *n = to_int16(real_number(value)); },
+                   [&](int32_t* n) { *n = to_int32(real_number(value)); },
+                   [&](uint32_t* n) { *n = static_cast<uint32_t>(real_number(value)); },
+                   [&](double* n) { *n = real_number(value); }},
+             variable);
+}
+
+}  // namespace play
