@@ -88,6 +88,7 @@ TEST(BmpRunLengths, DataCutAtEveryLength) {
 }
 
 TEST(BmpRunLengths, FewBytesAreNoHugePicture) {
+  const LittleMemory little;
   for (const Bytes& codes :
        {Bytes{0, 1}, Bytes{0, 2, 255, 255, 0, 2, 255, 255, 0, 2, 255, 255, 0, 2, 255, 255, 0, 1}}) {
     EXPECT_EQ(error_of(rle8(32767, 32767, codes).bmp()), 481);

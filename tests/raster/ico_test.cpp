@@ -174,6 +174,8 @@ TEST(IcoRead, PngThatCanNotBeRead) {
   Bytes shorter_told = bytes;
   shorter_told[14] = 25;
   EXPECT_EQ(error_of_png(shorter_told, red_png), 481) << "its header is 26 bytes";
+  const LittleMemory little;
+  EXPECT_EQ(error_of(ico({DibFile{.width = 32767, .height = 32766, .bits = 32, .pixels = Bytes(1000)}.head()})), 481);
   EXPECT_EQ(error_of_png(ico({png(20000, 20000, 8, 6, 255)}), red_png), 481) << "so few bytes can not hold it";
 }
 

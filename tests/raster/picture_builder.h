@@ -1,7 +1,11 @@
 // Picture files built byte by byte, and pictures as rows of colours 0xRRGGBB.
 #pragma once
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include <cstdint>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <vector>
@@ -73,6 +77,25 @@ struct DibFile {
   void masks_to(Bytes& out) const {
     for (uint32_t mask : masks) put32(out, mask);
   }
+};
+
+// As long as it lives, no more than half a gigabyte of memory can be added.
+class LittleMemory {
+ public:
+  LittleMemory() {
+    getrlimit(RLIMIT_DATA, &before_);
+    std::ifstream pages("/proc/self/statm");
+    rlim_t data = 0;
+    for (int field = 0; field < 6; ++field) pages >> data;
+    const rlimit now{data * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + (rlim_t{1} << 29), before_.rlim_max};
+    setrlimit(RLIMIT_DATA, &now);
+  }
+  ~LittleMemory() { setrlimit(RLIMIT_DATA, &before_); }
+  LittleMemory(const LittleMemory&) = delete;
+  LittleMemory& operator=(const LittleMemory&) = delete;
+
+ private:
+  rlimit before_{};
 };
 
 inline raster::PictureBytes in_memory(const Bytes& bytes) { return {bytes.size(), bytes.data(), -1}; }

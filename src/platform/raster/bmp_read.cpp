@@ -10,7 +10,7 @@ namespace raster {
 
 namespace {
 
-constexpr size_t STRIP_BYTES = size_t{256} << 10;  // stays in the cache between the read and the decoding
+constexpr size_t STRIP_BYTES = size_t{128} << 10;  // stays in the cache between the read and the decoding
 
 using DecodeRow = void (*)(const Dib& dib, const uint8_t* bytes, uint32_t* pixels);
 
