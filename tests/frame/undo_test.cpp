@@ -26,8 +26,8 @@ TEST(Undo, IsOffAtTheStart) {
 
 TEST(Undo, StaysOffAfterAScrollAndBack) {
   start();
-  view(4, 4);
-  show({"......", "......", "......", "......", "......", "......"});
+  view(40, 40);
+  show(Picture(60, std::string(60, '.')));
   click(1, 1);
   key(39);
   key(37);
