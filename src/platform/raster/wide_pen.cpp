@@ -1,6 +1,7 @@
 #include "platform/raster/wide_pen.h"
 
 #include <bit>
+#include <cmath>
 #include <vector>
 
 namespace raster {
@@ -9,14 +10,15 @@ namespace {
 
 // Kept between figures, so that drawing allocates only while figures grow.
 struct Scratch {
-  std::vector<uint64_t> bits;         // the region: bit x % 64 of word x / 64, counted from the left of the bounds
-  std::vector<int> dot_left;          // of each row of the dot, from the top: first column
-  std::vector<int> row_min, row_max;  // of each row of a segment: its true place, rounded up and down
-  int dot_width = 0;                  // the width that dot_left is for
+  std::vector<uint64_t> bits;  // the region: bit x % 64 of word x / 64, counted from the left of the bounds
+  std::vector<int> dot_left;   // of each row of the dot, from the top: first column
+  int dot_width = 0;           // the width that dot_left is for
 };
 thread_local Scratch scratch;
 
-// A pixel belongs to the disc when its centre does. In half pixels, so that the middle of an even width is whole.
+// A pixel belongs to the dot when its centre lies in the disc. In half pixels, so that the middle of an even width is
+// whole. The disc is a quarter pixel smaller than its width (n * n - n / 2 for the square of n - 1/4), which keeps
+// small dots round: with all of its width the one of 3 would be a square.
 void shape_dot(int n) {
   if (scratch.dot_width == n) return;
   scratch.dot_width = n;
@@ -25,7 +27,7 @@ void shape_dot(int n) {
   for (int j = 0; j < n; ++j) {
     const int64_t v = 2 * (j - n / 2) + even;
     int left = -(n / 2);
-    while ((2 * left + even) * (2 * left + even) + v * v > int64_t{n} * n) ++left;
+    while (2 * ((2 * left + even) * (2 * left + even) + v * v) > 2 * int64_t{n} * n - n) ++left;
     scratch.dot_left[static_cast<size_t>(j)] = left;
   }
 }
@@ -36,9 +38,22 @@ int dot_right(int j, int n) { return -dot_left(j) - (1 - n % 2); }
 
 int64_t floor_div(int64_t a, int64_t b) { return a / b - (a % b < 0 ? 1 : 0); }  // b above 0
 
+// The first column from x on that is in the region, or that is not; end if there is none before it.
+int find(const uint64_t* row, int x, int end, bool inked) {
+  if (x >= end) return end;
+  const uint64_t flip = inked ? 0 : ~uint64_t{0};
+  int i = x / 64;
+  uint64_t word = (row[i] ^ flip) & ~uint64_t{0} << x % 64;
+  while (word == 0) {
+    if (++i * 64 >= end) return end;
+    word = row[i] ^ flip;
+  }
+  return std::min(end, i * 64 + std::countr_zero(word));
+}
+
 }  // namespace
 
-WidePen::WidePen(Surface& s, Rect path) : surface_(s), width_(std::max(s.draw.DrawWidth, 1)) {
+WidePen::WidePen(Surface& s, Rect path) : surface_(s), width_(std::clamp(s.draw.DrawWidth, 1, MAX_SIDE)) {
   shape_dot(width_);
   const int before = width_ / 2, after = (width_ - 1) / 2;
   bounds_ = {std::max(path.left - before, 0), std::max(path.top - before, 0), std::min(path.right + after, s.width()),
@@ -68,75 +83,71 @@ void WidePen::mark(int y, int left, int right) {
 }
 
 void WidePen::run(int y, int left, int right) {
+  if (y + width_ <= bounds_.top || y - width_ >= bounds_.bottom || right + width_ <= bounds_.left ||
+      left - width_ >= bounds_.right)
+    return;
   for (int j = 0; j < width_; ++j) mark(y - width_ / 2 + j, left + dot_left(j), right + dot_right(j, width_) + 1);
 }
 
-// The stroke is the convex hull of its two end dots. The outermost place in a row belongs to one row of the dot, moved
-// along the line to a whole row: between them the hull's edge is straight.
+// A stroke is all pixels whose centre is no farther from the segment than the dot's radius: the two end dots and the
+// strip between them. Its rows have no gaps. u and v are a centre's place from the first end, in half pixels.
 void WidePen::segment(Point from, Point to) {
   if (from.y > to.y) std::swap(from, to);
   if (from.y == to.y) return run(from.y, std::min(from.x, to.x), std::max(from.x, to.x));
+  const int64_t dx = int64_t{to.x} - from.x, dy = int64_t{to.y} - from.y, even = 1 - width_ % 2;
+  const int64_t length2 = dx * dx + dy * dy;
+  const int64_t reach = static_cast<int64_t>(width_ * std::sqrt(static_cast<double>(length2)));
+
   const int before = width_ / 2;
-  const int top = std::max(from.y, bounds_.top - width_), bottom = std::min(to.y, bounds_.bottom + width_);
-  if (top > bottom) return;
-  const int64_t dx = int64_t{to.x} - from.x, dy = int64_t{to.y} - from.y;
-  const size_t rows = static_cast<size_t>(bottom - top) + 1;
-  if (scratch.row_min.size() < rows) {
-    scratch.row_min.resize(rows);
-    scratch.row_max.resize(rows);
-  }
-  for (int y = top; y <= bottom; ++y) {
-    const int64_t moved = (int64_t{y} - from.y) * dx, down = floor_div(moved, dy);
-    const size_t k = static_cast<size_t>(y - top);
-    scratch.row_max[k] = static_cast<int>(from.x + down);
-    scratch.row_min[k] = static_cast<int>(from.x + down + (down * dy != moved ? 1 : 0));
-  }
-  for (int y = std::max(top - before, bounds_.top); y < std::min(bottom + width_, bounds_.bottom); ++y) {
-    int left = FAR_OUT * 2 - 1, right = -left;
-    for (int j = std::max(0, y + before - bottom); j < std::min(width_, y + before - top + 1); ++j) {
-      const size_t k = static_cast<size_t>(y + before - j - top);
-      left = std::min(left, scratch.row_min[k] + dot_left(j));
-      right = std::max(right, scratch.row_max[k] + dot_right(j, width_) + 1);
+  for (int y = std::max(from.y - before, bounds_.top); y < std::min(to.y + width_ - before, bounds_.bottom); ++y) {
+    const int64_t v = 2 * (int64_t{y} - from.y) + even;
+    // across: |u * dy - v * dx| <= reach; along: 0 <= u * dx + v * dy <= 2 * length2
+    int64_t low = -floor_div(reach - v * dx, dy), high = floor_div(v * dx + reach, dy);
+    if (dx == 0 && (v < 0 || v > 2 * dy)) high = low - 1;
+    if (dx > 0) {
+      low = std::max(low, -floor_div(v * dy, dx));
+      high = std::min(high, floor_div(2 * length2 - v * dy, dx));
+    } else if (dx < 0) {
+      low = std::max(low, -floor_div(2 * length2 - v * dy, -dx));
+      high = std::min(high, floor_div(v * dy, -dx));
     }
-    mark(y, left, right);
+    int64_t left = FAR_OUT * int64_t{4}, right = -left;
+    auto widen = [&](int64_t l, int64_t r) {
+      left = std::min(left, l);
+      right = std::max(right, r);
+    };
+    if (low <= high) widen(from.x - floor_div(even - low, 2), from.x + floor_div(high - even, 2));
+    for (const Point& end : {from, to}) {
+      const int64_t j = int64_t{y} - end.y + before;
+      if (j >= 0 && j < width_)
+        widen(end.x + dot_left(static_cast<int>(j)), end.x + dot_right(static_cast<int>(j), width_));
+    }
+    auto on_surface = [](int64_t x) { return static_cast<int>(std::clamp<int64_t>(x, -1, MAX_SIDE)); };
+    mark(y, on_surface(left), on_surface(right) + 1);
   }
 }
 
 void WidePen::ink(Ink ink) {
+  const int width = bounds_.right - bounds_.left;
   for (int y = bounds_.top; y < bounds_.bottom; ++y) {
     const uint64_t* row = scratch.bits.data() + (y - bounds_.top) * words_;
-    int start = -1;  // of the run that goes on, -1 outside runs
-    for (int i = 0; i < words_; ++i) {
-      int bit = 0;
-      while (bit < 64) {
-        const uint64_t rest = row[i] >> bit;
-        // The zeros that the shift brings in do not count: a run may go on in the next word.
-        const int same = std::min(64 - bit, start < 0 ? std::countr_zero(rest) : std::countr_one(rest));
-        bit += same;
-        if (bit == 64) break;
-        if (start < 0) {
-          start = i * 64 + bit;
-        } else {
-          ink_span(surface_, y, bounds_.left + start, bounds_.left + i * 64 + bit, ink);
-          start = -1;
-        }
-      }
+    for (int start = find(row, 0, width, true); start < width;) {
+      const int end = find(row, start, width, false);
+      ink_span(surface_, y, bounds_.left + start, bounds_.left + end, ink);
+      start = find(row, end, width, true);
     }
-    if (start >= 0) ink_span(surface_, y, bounds_.left + start, bounds_.right, ink);
   }
 }
 
 void WidePen::brush_around(int y, int left, int right, const Brush& brush) {
   if (y < bounds_.top || y >= bounds_.bottom) return;
-  left = std::max(left, bounds_.left);
-  right = std::min(right, bounds_.right);
+  left = std::max(left, bounds_.left) - bounds_.left;
+  right = std::min(right, bounds_.right) - bounds_.left;
   const uint64_t* row = scratch.bits.data() + (y - bounds_.top) * words_;
-  auto inked = [&](int x) { return row[(x - bounds_.left) / 64] >> (x - bounds_.left) % 64 & 1; };
-  for (int x = left; x < right;) {
-    const int start = x;
-    while (x < right && !inked(x)) ++x;
-    if (x > start) brush_span(surface_, y, start, x, brush);
-    while (x < right && inked(x)) ++x;
+  for (int start = find(row, left, right, false); start < right;) {
+    const int end = find(row, start, right, true);
+    brush_span(surface_, y, bounds_.left + start, bounds_.left + end, brush);
+    start = find(row, end, right, false);
   }
 }
 
