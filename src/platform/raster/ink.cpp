@@ -7,12 +7,9 @@ void ink_span(Surface& s, int y, int left, int right, Ink ink) {
   right = std::min(right, s.width());
   if (y < 0 || y >= s.height() || left >= right) return;
   at_depth(s.depth(), [&](auto px) {
-    uint8_t* p = s.row(y);
-    if (ink.keep == 0) {
-      for (int x = left; x < right; ++x) px.put(p + x * px.bytes, ink.bits);
-    } else {
-      for (int x = left; x < right; ++x) px.put(p + x * px.bytes, px.get(p + x * px.bytes) ^ ink.bits);
-    }
+    uint8_t* p = s.row(y) + left * px.bytes;
+    if (ink.keep == 0) return put_run(px, p, right - left, ink.bits);
+    for (int i = 0; i < right - left; ++i) px.put(p + i * px.bytes, px.get(p + i * px.bytes) ^ ink.bits);
   });
 }
 
@@ -32,8 +29,10 @@ Brush brush_of(const Surface& s) {
 void brush_span(Surface& s, int y, int left, int right, const Brush& brush) {
   if (!brush.paints) return;
   if (!brush.cross) return ink_span(s, y, left, right, brush.ink);
-  for (int x = std::max(left, 0); x < std::min(right, s.width()); ++x)
-    if (on_cross(x, y)) ink_pixel(s, x, y, brush.ink);
+  left = std::max(left, 0);
+  right = std::min(right, s.width());
+  for (const int column : {y & 7, 7 - (y & 7)})
+    for (int x = left + ((column - left) & 7); x < right; x += 8) ink_pixel(s, x, y, brush.ink);
 }
 
 }  // namespace raster

@@ -25,10 +25,8 @@ inline Ink ink_of(const Surface& s, Colour colour) {
 void ink_span(Surface& s, int y, int left, int right, Ink ink);
 void ink_pixel(Surface& s, int x, int y, Ink ink);
 
-// The diagonal cross of FillStyle 7 is anchored to the surface and repeats every 8 pixels.
-constexpr bool on_cross(int x, int y) { return ((x - y) & 7) == 0 || ((x + y) & 7) == 7; }
-
-// FillColor in the surface's DrawMode and FillStyle.
+// FillColor in the surface's DrawMode and FillStyle. The diagonal cross of FillStyle 7 is anchored to the surface: row
+// y has the columns y and 7 - y modulo 8.
 struct Brush {
   Ink ink;
   bool paints, cross;

@@ -89,4 +89,10 @@ decltype(auto) at_depth(int depth, Work&& work) {
   }
 }
 
+// n pixels from p on become v.
+template <class Px>
+void put_run(Px, uint8_t* p, int n, uint32_t v) {
+  for (int i = 0; i < n; ++i) Px::put(p + i * Px::bytes, v);
+}
+
 }  // namespace raster

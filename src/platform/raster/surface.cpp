@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <limits>
+#include <utility>
 
 #include "platform/error.h"
 #include "platform/raster/pixel.h"
@@ -21,10 +21,11 @@ ptrdiff_t stride_for(int width, int depth) {
   return (bytes + ROW_ALIGNMENT - 1) / ROW_ALIGNMENT * ROW_ALIGNMENT;
 }
 
-// A work surface that shrinks to less than a quarter gives its memory back, unless there is little of it.
+// A surface that shrinks to less than a quarter gives its memory back, unless it is of the size of a view: work
+// surfaces change between a pen's size and a view's all the time.
 bool worth_keeping(size_t capacity, size_t need) {
-  constexpr size_t LITTLE = size_t{1} << 20;
-  return need <= capacity && (capacity <= LITTLE || capacity / 4 <= need);
+  constexpr size_t VIEW = size_t{16} << 20;
+  return need <= capacity && (capacity <= VIEW || capacity / 4 <= need);
 }
 
 // A whole picture stands on huge pages where the system has them: fresh memory is then had in half the time, and a walk
@@ -50,13 +51,26 @@ Surface Surface::unpainted(int width, int height, int depth) {
   return s;
 }
 
+void Surface::swap(Surface& other) noexcept {
+  std::swap(draw, other.draw);
+  std::swap(bits_, other.bits_);
+  std::swap(capacity_, other.capacity_);
+  std::swap(stride_, other.stride_);
+  std::swap(width_, other.width_);
+  std::swap(height_, other.height_);
+  std::swap(depth_, other.depth_);
+  std::swap(touched_, other.touched_);
+}
+
 void Surface::resize(int width, int height, Colour back) {
   const int kept_rows = std::min(height, height_), kept_columns = std::min(width, width_);
   reshape(width, height);
   const uint32_t pixel = to_pixel(back);
   at_depth(depth_, [&](auto px) {
-    for (int y = 0; y < height_; ++y)
-      for (int x = y < kept_rows ? kept_columns : 0; x < width_; ++x) px.put(row(y) + x * px.bytes, pixel);
+    for (int y = 0; y < height; ++y) {
+      const int x = y < kept_rows ? kept_columns : 0;
+      put_run(px, row(y) + x * px.bytes, width - x, pixel);
+    }
   });
 }
 
@@ -93,10 +107,7 @@ void Surface::reshape(int width, int height) {
 void Surface::fill(Colour colour) {
   const uint32_t pixel = to_pixel(colour);
   at_depth(depth_, [&](auto px) {
-    for (int y = 0; y < height_; ++y) {
-      uint8_t* p = row(y);
-      for (int x = 0; x < width_; ++x) px.put(p + x * px.bytes, pixel);
-    }
+    for (int y = 0; y < height_; ++y) put_run(px, row(y), width_, pixel);
   });
   touch_all();
 }

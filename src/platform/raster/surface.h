@@ -43,8 +43,12 @@ class Surface {
   Surface(int width, int height, int depth = 32, Colour back = WHITE);
   Surface(const Surface&) = delete;
   Surface& operator=(const Surface&) = delete;
-  Surface(Surface&&) noexcept = default;
-  Surface& operator=(Surface&&) noexcept = default;
+  // What is moved from is an empty surface of the same depth, or for the assignment what the other held.
+  Surface(Surface&& other) noexcept : depth_(other.depth_) { swap(other); }
+  Surface& operator=(Surface&& other) noexcept {
+    swap(other);
+    return *this;
+  }
   // Its pixels are anything until they are written: for whoever writes them all.
   static Surface unpainted(int width, int height, int depth = 32);
 
@@ -56,7 +60,8 @@ class Surface {
   int width() const { return width_; }
   int height() const { return height_; }
   int depth() const { return depth_; }
-  ptrdiff_t stride() const { return stride_; }  // bytes from one row to the next, a multiple of 4
+  // Bytes from one row to the next, a multiple of 64; rows begin at addresses that are.
+  ptrdiff_t stride() const { return stride_; }
   // Rows go from the top down. Pixel bytes are blue, green, red and at depth 32 a fourth that is always 0xFF; 16 bits
   // are 5-6-5; 8 bits are 3-3-2 with red in the high bits.
   uint8_t* row(int y) { return bits_.get() + y * stride_; }
@@ -77,6 +82,8 @@ class Surface {
   Rect take_touched();
 
  private:
+  void swap(Surface& other) noexcept;
+
   struct FreeBits {
     void operator()(uint8_t* p) const;
   };
