@@ -134,7 +134,7 @@ class Label : public Control, public PointerEvents {
   void font(Font f);
   // --- for the design
   bool transparent = true;
-  enum class Align : uint8_t { left, right, centre } align = Align::left;
+  enum class Align : uint8_t { left, right, centre } align = Align::left;  // centre: of its height too
 
  protected:
   void back_to_design() override;

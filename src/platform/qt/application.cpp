@@ -1,5 +1,6 @@
 #include "platform/qt/application.h"
 
+#include <QProxyStyle>
 #include <algorithm>
 #include <cmath>
 
@@ -23,6 +24,15 @@ class WhileMade {
  private:
   const char* name_;
   QByteArray old_;
+};
+
+// The palettes' scroll bars are short; a small handle leaves them a way to go.
+class ShortHandles : public QProxyStyle {
+ public:
+  ShortHandles() : QProxyStyle("fusion") {}
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    return metric == PM_ScrollBarSliderMin ? 10 : QProxyStyle::pixelMetric(metric, option, widget);
+  }
 };
 
 }  // namespace
@@ -55,7 +65,7 @@ Application::Application(int& argc, char** argv, bool offscreen) {
   // Every point of a fast stroke counts.
   QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
   QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
-  QApplication::setStyle("fusion");
+  QApplication::setStyle(new ShortHandles);
   app.emplace(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setPalette(light_palette());

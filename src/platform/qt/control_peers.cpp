@@ -1,5 +1,6 @@
 // The controls that the user works with: button, scroll bar, option, check box.
 #include <QCheckBox>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
@@ -24,7 +25,9 @@ class ButtonPeer final : public ControlPeer {
     return w;
   }
   void refresh(uint32_t changes) override {
-    if (changes & forms::TEXT) static_cast<QPushButton*>(widget())->setText(caption(button_.Caption()));
+    if (!(changes & (forms::TEXT | forms::GEOMETRY))) return;
+    static_cast<QPushButton*>(widget())->setText(caption(button_.Caption()));
+    fit_text();
   }
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return false;
@@ -37,6 +40,16 @@ class ButtonPeer final : public ControlPeer {
  private:
   void click() {
     if (reachable()) user_event([this] { button_.Click.fire(button_.index); });
+  }
+  // Buttons keep their place whatever the font; a caption that is too wide for it gets smaller letters.
+  void fit_text() {
+    QFont font = font_of(forms::Font{});
+    const QString text = to_qt(button_.Caption());
+    const double room = button_.width_px() - 6;
+    while (font.pixelSize() > 9 && QFontMetrics(font).horizontalAdvance(text) > room) {
+      font.setPixelSize(font.pixelSize() - 1);
+    }
+    widget()->setFont(font);
   }
   forms::CommandButton& button_;
 };

@@ -67,12 +67,12 @@ class LabelPeer final : public PointedPeer<forms::Label> {
   }
   void paint(QPainter& p, const QRect& all) override {
     if (!model_.transparent) p.fillRect(all, colour_of(model_.BackColor()));
-    const int align = model_.align == forms::Label::Align::left    ? Qt::AlignLeft
-                      : model_.align == forms::Label::Align::right ? Qt::AlignRight
-                                                                   : Qt::AlignHCenter;
+    const int align = model_.align == forms::Label::Align::left    ? Qt::AlignLeft | Qt::AlignTop
+                      : model_.align == forms::Label::Align::right ? Qt::AlignRight | Qt::AlignTop
+                                                                   : Qt::AlignCenter;
     const int wrap = model_.AutoSize() ? 0 : Qt::TextWordWrap;
     p.setPen(colour_of(model_.is_enabled() ? model_.ForeColor() : 0x808080));
-    p.drawText(all, align | Qt::AlignTop | wrap, to_qt(model_.Caption()));
+    p.drawText(all, align | wrap, to_qt(model_.Caption()));
   }
 };
 
