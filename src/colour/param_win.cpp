@@ -20,15 +20,15 @@ struct WindowRow {
   const char* caption;  // behind APP_TITLE
   Frame* frame;
   const char* frame_caption;
-  int rows;                 // of bars
+  int rows, bar_left;       // how many bars, and where they begin
   CommandButton* Command3;  // sets the defaults; DEEP_WIN has none
 };
 constexpr WindowRow WINDOWS[] = {
-    {&FUZZY_WIN, &FUZZY_ON, " Fuzzy設定", &FUZZY_WIN.Frame1, "似た色の条件", 3, &FUZZY_WIN.Command3},
-    {&SPRAY_WIN, &SPRAY_ON, " Spray設定", &SPRAY_WIN.Frame1, "強さ", 1, &SPRAY_WIN.Command3},
-    {&HSET_WIN, &HSET_ON, " HSET 設定", &HSET_WIN.Frame1, "Vの変化量 (%)", 1, &HSET_WIN.Command3},
+    {&FUZZY_WIN, &FUZZY_ON, " Fuzzy設定", &FUZZY_WIN.Frame1, "似た色の条件", 3, 26, &FUZZY_WIN.Command3},
+    {&SPRAY_WIN, &SPRAY_ON, " Spray設定", &SPRAY_WIN.Frame1, "強さ", 1, 30, &SPRAY_WIN.Command3},
+    {&HSET_WIN, &HSET_ON, " HSET 設定", &HSET_WIN.Frame1, "Vの変化量 (%)", 1, 44, &HSET_WIN.Command3},
     // The word Fuzzy is what this window has always shown.
-    {&DEEP_WIN, &DEEP_ON, " Fuzzy設定", &DEEP_WIN.Frame1, "濃度バランス", 1, nullptr},
+    {&DEEP_WIN, &DEEP_ON, " Fuzzy設定", &DEEP_WIN.Frame1, "濃度バランス", 1, 44, nullptr},
 };
 
 // The tools of each window. One that only opens it does not keep it open at the next change of tool.
@@ -69,12 +69,12 @@ constexpr struct LabelRow {
   const char* text;
   int row, left, width;
 } LABELS[] = {
-    {FUZZY, &FUZZY_WIN.Label1, "H", 0, 10, 32},   {FUZZY, &FUZZY_WIN.Label4, "±", 0, 166, 14},
-    {FUZZY, &FUZZY_WIN.Label2, "S", 1, 10, 32},   {FUZZY, &FUZZY_WIN.Label5, "±", 1, 166, 14},
-    {FUZZY, &FUZZY_WIN.Label3, "V", 2, 10, 32},   {FUZZY, &FUZZY_WIN.Label6, "±", 2, 166, 14},
-    {SPRAY, &SPRAY_WIN.Label1, "弱", 0, 10, 32},  {SPRAY, &SPRAY_WIN.Label2, "強", 0, 166, 32},
-    {HSET, &HSET_WIN.Label1, "V", 0, 10, 12},     {HSET, &HSET_WIN.Label2, "暗", 0, 24, 18},
-    {HSET, &HSET_WIN.Label3, "明", 0, 166, 16},   {DEEP, &DEEP_WIN.Label1, "Base", 0, 10, 32},
+    {FUZZY, &FUZZY_WIN.Label1, "H", 0, 10, 14},   {FUZZY, &FUZZY_WIN.Label4, "±", 0, 166, 14},
+    {FUZZY, &FUZZY_WIN.Label2, "S", 1, 10, 14},   {FUZZY, &FUZZY_WIN.Label5, "±", 1, 166, 14},
+    {FUZZY, &FUZZY_WIN.Label3, "V", 2, 10, 14},   {FUZZY, &FUZZY_WIN.Label6, "±", 2, 166, 14},
+    {SPRAY, &SPRAY_WIN.Label1, "弱", 0, 12, 16},  {SPRAY, &SPRAY_WIN.Label2, "強", 0, 167, 16},
+    {HSET, &HSET_WIN.Label1, "V", 0, 10, 12},     {HSET, &HSET_WIN.Label2, "暗", 0, 27, 16},
+    {HSET, &HSET_WIN.Label3, "明", 0, 165, 16},   {DEEP, &DEEP_WIN.Label1, "Base", 0, 10, 32},
     {DEEP, &DEEP_WIN.Label2, "Draw", 0, 166, 40},
 };
 
@@ -106,18 +106,19 @@ void load(Which which) {
   }
 }
 
-constexpr int ROW_HEIGHT = 24, FRAME_LEFT = 8, FRAME_WIDTH = 216;
+constexpr int FRAME_LEFT = 8, FRAME_WIDTH = 216, FIRST_ROW = 26, ROW_HEIGHT = 24, BAR_RIGHT = 162;
 
-void design_bars(Which which, Frame* frame) {
-  int top = 20;
+void design_bars(Which which) {
+  const WindowRow& form = WINDOWS[which];
+  int top = FIRST_ROW;
   for (const BarRow& row : BARS) {
     if (row.window != which) continue;
-    row.bar->design(44, top, 118, 18, frame);
+    row.bar->design(form.bar_left, top, BAR_RIGHT - form.bar_left, 18, form.frame);
     row.bar->range(row.min, row.max, row.start, 1, row.large);
     row.bar->accessible_name = row.name;
     row.bar->Change = row.change;
     if (row.value) {
-      row.value->design(180, top, 28, 18, frame);
+      row.value->design(180, top + 2, 26, 16, form.frame);
       row.value->align = Label::Align::right;
       row.value->Caption(text::Str(row.start));
     }
@@ -127,18 +128,18 @@ void design_bars(Which which, Frame* frame) {
 
 void design_inside(Which which, void (*default_click)()) {
   const WindowRow& form = WINDOWS[which];
-  const int frame_height = 28 + ROW_HEIGHT * form.rows;
-  form.window->design(0, 0, FRAME_WIDTH + 2 * FRAME_LEFT, frame_height + (form.Command3 ? 44 : 16));
+  const int frame_height = FIRST_ROW + ROW_HEIGHT * form.rows + 4;
+  form.window->design(0, 0, FRAME_WIDTH + 2 * FRAME_LEFT, frame_height + (form.Command3 ? 46 : 14));
   form.frame->design(FRAME_LEFT, 6, FRAME_WIDTH, frame_height);
   form.frame->Caption(form.frame_caption);
-  design_bars(which, form.frame);
+  design_bars(which);
   for (const LabelRow& row : LABELS) {
     if (row.window != which) continue;
-    row.label->design(row.left, 20 + ROW_HEIGHT * row.row, row.width, 18, form.frame);
+    row.label->design(row.left, FIRST_ROW + ROW_HEIGHT * row.row + 2, row.width, 16, form.frame);
     row.label->Caption(row.text);
   }
   if (!form.Command3) return;
-  form.Command3->design(FRAME_LEFT + FRAME_WIDTH - 72, frame_height + 12, 72, 24);
+  form.Command3->design(FRAME_LEFT + FRAME_WIDTH - 72, frame_height + 14, 72, 24);
   form.Command3->Caption("Default");
   form.Command3->ToolTip("はじめの値に戻す");
   form.Command3->Click = default_click;
