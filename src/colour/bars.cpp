@@ -99,13 +99,13 @@ void design_bars() {
     ScrollBar& bar = COL_WIN.*row.bar;
     Label& value = COL_WIN.*row.value;
     Label& letter = COL_WIN.*row.letter;
-    place(letter, 4, top, 10, 16, pane);
+    place(letter, 4, top + 1, 10, 16, pane);
     letter.Caption(row.caption);
     letter.ForeColor(row.ink);
     place(bar, 15, top, 62, 16, pane);
     bar.range(0, row.max, 0, 1, 16);
     bar.ToolTip(row.name);
-    place(value, 78, top, 23, 16, pane);
+    place(value, 78, top + 1, 22, 16, pane);
     value.align = Label::Align::right;
     value.Caption(row.start_value);
     top += row.bar == &ColWin::B_BAR ? 24 : 20;

@@ -72,6 +72,10 @@ void Form_Load() {
   // The word that is not the mode lies under the one that is.
   COL_WIN.Command4.Move(550, 1440, 905, 270);
   COL_WIN.Label7.Move(550, 1440, 905, 270);
+  // A window that was closed by its frame comes back with the colours and dictionaries of this run.
+  COL_DRAW_BARS(CUR_R, CUR_G, CUR_B);
+  if (COL_PANE == 1) show_bars();
+  show_dictionaries();
 }
 
 void Form_QueryUnload(int& /*Cancel*/) {
@@ -82,15 +86,16 @@ void Form_QueryUnload(int& /*Cancel*/) {
 void design_top() {
   const auto colour_box = [](PictureBox& box, Shape& mark, double left, Colour colour, const char* tip) {
     box.inside = Scale::twips;
-    place(box, left, 4, 46, 26);
-    place(mark, 0, 0, 46, 26, &box);
+    box.border = true;
+    place(box, left, 5, 44, 24);
+    place(mark, 0, 0, 44, 24, &box);
     box.BackColor(colour);
     box.ToolTip(tip);
   };
-  colour_box(COL_WIN.TAR_COL, COL_WIN.TAR_SEL, 4, RGB(TAR_R, TAR_G, TAR_B), "ターゲット色 (もう一度押すとスポイト)");
-  colour_box(COL_WIN.DES_COL, COL_WIN.DES_SEL, 54, RGB(DES_R, DES_G, DES_B),
+  colour_box(COL_WIN.TAR_COL, COL_WIN.TAR_SEL, 5, RGB(TAR_R, TAR_G, TAR_B), "ターゲット色 (もう一度押すとスポイト)");
+  colour_box(COL_WIN.DES_COL, COL_WIN.DES_SEL, 55, RGB(DES_R, DES_G, DES_B),
              "デスティネーション色 (もう一度押すとスポイト)");
-  (COL_TARGET == 0 ? COL_WIN.TAR_SEL : COL_WIN.DES_SEL).FillColor(QBColor(11));
+  (COL_TARGET == 0 ? COL_WIN.TAR_SEL : COL_WIN.DES_SEL).FillColor(QBColor(CUR_TOOL == 1000 ? 12 : 11));
 
   COL_WIN.COL_RGB.border = true;
   place(COL_WIN.COL_RGB, 5, 35, 94, 12);

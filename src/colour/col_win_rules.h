@@ -14,6 +14,9 @@ void PICK_EXIT();
 // The six bars show CUR_. No change of theirs comes back to the colour meanwhile.
 void show_bars();
 
+// Combo1 shows the names, the cells the open dictionary.
+void show_dictionaries();
+
 void wire_rain(ColWin& win);
 void wire_bars(ColWin& win);
 void wire_dictionary(ColWin& win);

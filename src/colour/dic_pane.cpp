@@ -13,15 +13,19 @@ void COLINDEX_Click(int Index) {
   DICT_KEY('A' + Index, COL_TARGET != 0 ? RGB(DES_R, DES_G, DES_B) : RGB(TAR_R, TAR_G, TAR_B));
 }
 
+void show_cells() {
+  for (int cell = 0; cell < COL_WIN.COLINDEX.count; ++cell) {
+    const auto& colour = DICT_COL(DICT_CUR)(cell);
+    DICT_CELL_SHOW(cell, colour(1), colour(2), colour(3));
+  }
+}
+
 void Combo1_Click() {
   // Of dictionaries with the same name the last one opens.
   for (int16_t i = 0; i <= 9; ++i) {
     if (COL_WIN.Combo1.Text() != DICT_NAME(i)) continue;
     DICT_CUR = i;
-    for (int cell = 0; cell < COL_WIN.COLINDEX.count; ++cell) {
-      auto& colour = DICT_COL(i)(cell);
-      DICT_CELL_SHOW(cell, colour(1), colour(2), colour(3));
-    }
+    show_cells();
   }
 }
 
@@ -42,12 +46,20 @@ void Combo1_KeyPress(int KeyAscii) {
 void set_write_mode(int16_t write) {
   COL_WIN.Command4.Visible(write == 0);
   COL_WIN.Command4.Enabled(write == 0);
+  COL_WIN.Label7.BackColor(write == 0 ? 0x8000000F : RGB(255, 160, 160));  // a click now overwrites: a warning
   DICT_WRITE = write;
 }
 void Command4_Click() { set_write_mode(1); }
 void Label7_Click() { set_write_mode(0); }
 
 }  // namespace
+
+void show_dictionaries() {
+  COL_WIN.Combo1.Clear();
+  for (int i = 0; i <= 9; ++i) COL_WIN.Combo1.AddItem(DICT_NAME(i));
+  COL_WIN.Combo1.Text(DICT_NAME(DICT_CUR));
+  show_cells();
+}
 
 void wire_dictionary(ColWin& win) {
   win.Combo1.Click = Combo1_Click;
@@ -75,7 +87,7 @@ void design_dictionary() {
   COL_WIN.Label7.design(MODE_LEFT, MODE_TOP, MODE_WIDTH, HEIGHT, pane);
   COL_WIN.Label7.transparent = false;
   COL_WIN.Label7.align = Label::Align::centre;
-  COL_WIN.Label7.BackColor(RGB(255, 160, 160));
+  COL_WIN.Label7.font({"", 8, false, false});
   COL_WIN.Label7.Caption("WriteMode");
   COL_WIN.Label7.ToolTip("辞書に書き込み中 (押すと読み出しへ)");
   COL_WIN.Command4.design(MODE_LEFT, MODE_TOP, MODE_WIDTH, HEIGHT, pane);

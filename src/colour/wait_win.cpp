@@ -17,7 +17,7 @@ void design() {
   WAIT_WIN.design(0, 0, 264, 72);
   WAIT_WIN.FRAME.design(8, 6, 248, 58);
   WAIT_WIN.BAR.border = true;
-  WAIT_WIN.BAR.design(12, 26, 224, 18, &WAIT_WIN.FRAME);
+  WAIT_WIN.BAR.design(12, 28, 224, 18, &WAIT_WIN.FRAME);
 }
 
 void enable_others(bool enabled) {

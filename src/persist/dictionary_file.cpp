@@ -49,6 +49,7 @@ void open_dictionaries(const std::string& cdi) {
 
 void show_dictionaries() {
   COL_WIN.Combo1.Text(DICT_NAME(0));
+  COL_WIN.Combo1.Clear();
   for (int i = 0; i < DICTIONARIES; ++i) COL_WIN.Combo1.AddItem(DICT_NAME(i));
   DICT_CUR = 0;
   for (int i = 0; i < CELLS; ++i) {

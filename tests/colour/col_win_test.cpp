@@ -281,6 +281,21 @@ TEST_F(ColourWindow, ComesBackToItsPlaceAndPane) {
   EXPECT_EQ(COL_HSV_LOCK, 0);
 }
 
+TEST_F(ColourWindow, AWindowThatWasClosedComesBackWithItsColours) {
+  CUR_TOOL = 6;
+  click(COL_WIN.Command2);
+  click(COL_WIN.DES_COL);
+  COL_WIN.B_BAR.Value(0);
+  click(COL_WIN.DES_COL);
+  COL_WIN.Unload();
+  EXPECT_EQ(COL_WIN.DES_COL.BackColor(), RGB(255, 255, 0));
+  EXPECT_EQ(COL_WIN.DES_SEL.FillColor(), QBColor(12));
+  EXPECT_EQ(COL_WIN.TAR_SEL.FillColor(), FACE);
+  EXPECT_EQ(GetPixel(COL_WIN.COL_RGB, 0, 0), QBColor(12));
+  EXPECT_EQ(rgb_bars(), (Three{255, 255, 0}));
+  EXPECT_EQ(hsv_bars(), (Three{60, 255, 255}));
+}
+
 TEST_F(ColourWindow, ItsPlaceIsStoredInWholeTwips) {
   COL_WIN.Move(100.5, 101.5);
   COL_WIN.Unload();

@@ -4,14 +4,16 @@
 namespace kiso {
 namespace {
 
+constexpr int ENTER = 13, TAB = 9;
+
 struct Dictionary : ColourTest {
   Dictionary() {
     for (int d = 0; d <= 9; ++d) {
       DICT_NAME(d) = "辞書" + std::to_string(d);
-      COL_WIN.Combo1.AddItem(DICT_NAME(d));
       for (int cell = 0; cell < 26; ++cell) store(d, cell, {d, cell, 9});
     }
-    COL_WIN.Combo1.Text(DICT_NAME(0));
+    COL_WIN.Unload();
+    COL_WIN.Show();
     click(COL_WIN.Command3);
   }
   static void store(int d, int cell, Three colour) {
@@ -26,7 +28,16 @@ struct Dictionary : ColourTest {
   }
 };
 
-constexpr int ENTER = 13, TAB = 9;
+TEST_F(Dictionary, AWindowThatWasClosedComesBackWithTheDictionaries) {
+  ASSERT_EQ(COL_WIN.Combo1.ListCount(), 10);
+  COL_WIN.Combo1.ListIndex(5);
+  type("空", ENTER);
+  COL_WIN.Unload();
+  EXPECT_EQ(COL_WIN.Combo1.ListCount(), 10);
+  EXPECT_EQ(COL_WIN.Combo1.List(5), "空");
+  EXPECT_EQ(COL_WIN.Combo1.Text(), "辞書0");
+  EXPECT_EQ(COL_WIN.COLINDEX(3).BackColor(), RGB(0, 3, 9));
+}
 
 TEST_F(Dictionary, CellsBearTheLettersAToZ) {
   EXPECT_EQ(COL_WIN.COLINDEX(0).Caption(), "A");
