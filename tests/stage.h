@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <deque>
 #include <filesystem>
 #include <string>
@@ -92,9 +93,10 @@ struct Home {
   Home() {
     std::string pattern = (std::filesystem::temp_directory_path() / "kiso-test-XXXXXX").string();
     path = mkdtemp(pattern.data());
+    const char* assets = std::getenv("KISO_ASSETS");  // set by ctest; else the tests run in the checkout
     for (const char* name : {"DEFAULT.CNF", "DEFAULT.CDI", "DEFAULT.AIN"}) {
       std::error_code missing;
-      std::filesystem::copy_file(std::string(KISO_ASSETS) + "/" + name, path + "/" + name, missing);
+      std::filesystem::copy_file(std::string(assets ? assets : "assets") + "/" + name, path + "/" + name, missing);
     }
     setenv("KISO_HOME", path.c_str(), 1);
   }
