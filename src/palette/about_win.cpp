@@ -19,7 +19,7 @@ void design_about() {
   ABOUT_WIN.Title.Caption("Paint Tool");
   ABOUT_WIN.Version.design(90, 52, W - 106, 20);
   ABOUT_WIN.Version.Caption(VERSION);
-  ABOUT_WIN.Command1.design((W - 80) / 2, H - 40, 80, 26);
+  ABOUT_WIN.Command1.design((W - 80) / 2.0, H - 40, 80, 26);
   ABOUT_WIN.Command1.Caption("OK");
   ABOUT_WIN.Command1.is_default = true;
   ABOUT_WIN.Command1.is_cancel = true;

@@ -152,15 +152,15 @@ void EXP_M2_Click(int Index) {
   }
   DRAW.Visible(false);
   SET_CURSOR("WAIT");
-  int16_t newX = 0;
-  int16_t newY = 0;
-  VIEW_CENTER(DRAW.ScaleWidth() / 2, DRAW.ScaleHeight() / 2, rate, newX, newY);
+  int16_t new_x = 0;
+  int16_t new_y = 0;
+  VIEW_CENTER(DRAW.ScaleWidth() / 2, DRAW.ScaleHeight() / 2, rate, new_x, new_y);
   EXP_RATE = rate;
-  VIEW_ORG(1) = newX;
-  VIEW_ORG(2) = newY;
+  VIEW_ORG(1) = new_x;
+  VIEW_ORG(2) = new_y;
   VIEW_FIT();
-  X_SC.Value(newX);
-  Y_SC.Value(newY);
+  X_SC.Value(new_x);
+  Y_SC.Value(new_y);
   if (CUR_TOOL == 11101) {
     WORK.Visible(false);
     CUR_TOOL = 11100;

@@ -39,8 +39,8 @@ struct PalButton {
   int8_t index;
   Panel panel;
   int8_t row, column;
-  int16_t tool;
   Param right;
+  int16_t tool;
   const char* name;      // null: the tool's status text says it
   const char* japanese;  // the same for a reader of Japanese
 };
@@ -54,8 +54,8 @@ constexpr int CELL = 24;  // pixels; side of a button and step of the grid
 // pressed button, -1 when none, and its controls. A group without pressed shows its buttons pressed by other rules.
 struct PalGroup {
   Group group;
-  const char* sheet;
   int count;
+  const char* sheet;
   int32_t* pressed;
   ImageBox& (*button)(int index);
 };

@@ -15,38 +15,38 @@ constexpr int BLANK = -1;
 // A panel's buttons in reading order, as the palette is laid out.
 struct Row {
   Panel panel;
-  int row;
   Group group;
+  int row;
   std::vector<int> indices;
 };
 const Row ROWS[] = {
-    {Panel::ROOT_B_BASE, 0, Group::ROOT_B, {0, 4, 6, 1}},
-    {Panel::ROOT_B_BASE, 1, Group::ROOT_B, {2, 5, 3}},
-    {Panel::ROOT_M0, 0, Group::CMD_B, {0, 1, 2, 3}},
-    {Panel::ROOT_M0, 1, Group::CMD_B, {4, 5, 6, 20}},
-    {Panel::ROOT_M0, 2, Group::CMD_B, {7, 8, 9, 10}},
-    {Panel::ROOT_M1, 0, Group::EDIT_B, {BLANK, 0, 1, 2}},
-    {Panel::ROOT_M2, 0, Group::FILE_B, {BLANK, BLANK, 0, 2}},
-    {Panel::ROOT_M2, 1, Group::FILE_B, {BLANK, BLANK, 1, 3}},
-    {Panel::ROOT_M2, 2, Group::FILE_B, {4, 5, 6, 7}},
-    {Panel::ROOT_M3, 0, Group::SYS_B, {0, 1, 2}},
-    {Panel::ROOT_M3, 2, Group::SYS_B, {3, 4}},
-    {Panel::ROOT_M4, 0, Group::CMD_B, {11, 16, 27, 23}},
-    {Panel::ROOT_M4, 1, Group::CMD_B, {18, 19, 21, 22}},
-    {Panel::ROOT_M4, 2, Group::CMD_B, {12, 13, 14, 15}},
-    {Panel::ROOT_M5, 0, Group::EFCT_B, {0, 1, 2, 3}},
-    {Panel::ROOT_M5, 1, Group::EFCT_B, {4, 5}},
-    {Panel::ROOT_M6, 0, Group::CMD_B, {17, 24, 33, 34}},
-    {Panel::ROOT_M6, 1, Group::CMD_B, {25, 26, 30, 35}},
-    {Panel::ROOT_M6, 2, Group::CMD_B, {28, 29, 32, 31}},
-    {Panel::EXP_B_BASE, 0, Group::EXP_B, {0, 1, 2}},
-    {Panel::EXP_M0, 0, Group::EXP_M1, {0, 12, 13, 5}},
-    {Panel::EXP_M0, 1, Group::EXP_M1, {3, 4, 11, 6}},
-    {Panel::EXP_M0, 2, Group::EXP_M1, {1, 2, 14, 15}},
-    {Panel::EXP_M1, 0, Group::EXP_M1, {7, 8, 9, 10}},
-    {Panel::EXP_M1, 1, Group::EXP_M1, {16, 17, 18, 19}},
-    {Panel::EXP_M2, 0, Group::EXP_M2, {0, 1, 2, 3}},
-    {Panel::WINDOW, 0, Group::OPT_W_B, {1, 2, 0}},
+    {Panel::ROOT_B_BASE, Group::ROOT_B, 0, {0, 4, 6, 1}},
+    {Panel::ROOT_B_BASE, Group::ROOT_B, 1, {2, 5, 3}},
+    {Panel::ROOT_M0, Group::CMD_B, 0, {0, 1, 2, 3}},
+    {Panel::ROOT_M0, Group::CMD_B, 1, {4, 5, 6, 20}},
+    {Panel::ROOT_M0, Group::CMD_B, 2, {7, 8, 9, 10}},
+    {Panel::ROOT_M1, Group::EDIT_B, 0, {BLANK, 0, 1, 2}},
+    {Panel::ROOT_M2, Group::FILE_B, 0, {BLANK, BLANK, 0, 2}},
+    {Panel::ROOT_M2, Group::FILE_B, 1, {BLANK, BLANK, 1, 3}},
+    {Panel::ROOT_M2, Group::FILE_B, 2, {4, 5, 6, 7}},
+    {Panel::ROOT_M3, Group::SYS_B, 0, {0, 1, 2}},
+    {Panel::ROOT_M3, Group::SYS_B, 2, {3, 4}},
+    {Panel::ROOT_M4, Group::CMD_B, 0, {11, 16, 27, 23}},
+    {Panel::ROOT_M4, Group::CMD_B, 1, {18, 19, 21, 22}},
+    {Panel::ROOT_M4, Group::CMD_B, 2, {12, 13, 14, 15}},
+    {Panel::ROOT_M5, Group::EFCT_B, 0, {0, 1, 2, 3}},
+    {Panel::ROOT_M5, Group::EFCT_B, 1, {4, 5}},
+    {Panel::ROOT_M6, Group::CMD_B, 0, {17, 24, 33, 34}},
+    {Panel::ROOT_M6, Group::CMD_B, 1, {25, 26, 30, 35}},
+    {Panel::ROOT_M6, Group::CMD_B, 2, {28, 29, 32, 31}},
+    {Panel::EXP_B_BASE, Group::EXP_B, 0, {0, 1, 2}},
+    {Panel::EXP_M0, Group::EXP_M1, 0, {0, 12, 13, 5}},
+    {Panel::EXP_M0, Group::EXP_M1, 1, {3, 4, 11, 6}},
+    {Panel::EXP_M0, Group::EXP_M1, 2, {1, 2, 14, 15}},
+    {Panel::EXP_M1, Group::EXP_M1, 0, {7, 8, 9, 10}},
+    {Panel::EXP_M1, Group::EXP_M1, 1, {16, 17, 18, 19}},
+    {Panel::EXP_M2, Group::EXP_M2, 0, {0, 1, 2, 3}},
+    {Panel::WINDOW, Group::OPT_W_B, 0, {1, 2, 0}},
 };
 
 TEST_F(Palette, EveryButtonStandsInItsPlace) {
