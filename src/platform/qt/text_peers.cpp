@@ -43,6 +43,7 @@ class TextPeer final : public ControlPeer {
 QWidget* TextPeer::make(QWidget* parent) {
   if (box_.multi_line) {
     page_ = new QPlainTextEdit(parent);
+    page_->setReadOnly(box_.read_only);
     connect(page_, &QPlainTextEdit::textChanged, this, [this] { typed(page_->toPlainText()); });
   } else {
     line_ = new QLineEdit(parent);
