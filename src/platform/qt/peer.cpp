@@ -73,18 +73,20 @@ void ControlPeer::place() {
                        px(control_.width_px()) + 2 * inset(), px(control_.height_px()) + 2 * inset());
 }
 
-// Under the lowest of those that stand above it.
+// Puts it and its neighbours one under the other; several of them may have changed their order together, so each one's
+// place is that of the model and not that of the neighbours' widgets. What is in place does not move.
 void ControlPeer::stack() {
+  std::vector<Control*> neighbours;
+  std::ranges::copy_if(control_.window.controls(), std::back_inserter(neighbours),
+                       [&](const Control* c) { return c->container == control_.container; });
+  std::ranges::stable_sort(neighbours, std::ranges::greater{}, &Control::order);
   QWidget* above = nullptr;
-  int lowest = 0;
-  for (const Control* c : control_.window.controls()) {
+  for (const Control* c : neighbours) {
     const ControlPeer* peer = peer_of(*c);
-    if (c->container != control_.container || !peer || peer == this || !peer->widget()) continue;
-    if (c->order() <= control_.order() || (above && c->order() >= lowest)) continue;
+    if (!peer || !peer->widget()) continue;
+    above ? peer->widget()->stackUnder(above) : peer->widget()->raise();
     above = peer->widget();
-    lowest = c->order();
   }
-  above ? widget_->stackUnder(above) : widget_->raise();
 }
 
 void ControlPeer::update(uint32_t changes) {
