@@ -129,11 +129,12 @@ TEST_F(Palette, AZoomBringsTheExpansionPaletteAndX1TheRootPaletteBack) {
   EXPECT_EQ(pressed(CMD_WIN.EDIT_B), Pressed{});
 }
 
-TEST_F(Palette, TheExpansionPaletteCoversTheRootPaletteWhole) {
+TEST_F(Palette, ThePalettesCoverEachOtherWhole) {
   expand(0, 100, 100);
   const auto bottom = [](PictureBox& p) { return p.Top() + p.Height(); };
   EXPECT_EQ(CMD_WIN.EXP_B_BASE.Top(), CMD_WIN.ROOT_B_BASE.Top());
-  EXPECT_EQ(bottom(CMD_WIN.EXP_B_BASE), CMD_WIN.EXP_M(0).Top());
+  EXPECT_EQ(bottom(CMD_WIN.EXP_B_BASE), CMD_WIN.EXP_M(0).Top()) << "nothing shines through between them";
+  EXPECT_EQ(bottom(CMD_WIN.ROOT_B_BASE), CMD_WIN.ROOT_M(0).Top());
   EXPECT_EQ(bottom(CMD_WIN.EXP_M(0)), bottom(CMD_WIN.ROOT_M(0)));
   EXPECT_LE(bottom(CMD_WIN.ROOT_M(0)), CMD_WIN.PEN_SZ_SB.Top());
 }
