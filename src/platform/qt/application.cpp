@@ -62,11 +62,11 @@ Application::Application(int& argc, char** argv, bool offscreen) {
   const WhileMade no_gl("QT_XCB_GL_INTEGRATION", "none");
   const WhileMade platform("QT_QPA_PLATFORM", offscreen ? QByteArray("offscreen") : qgetenv("QT_QPA_PLATFORM"));
 
-  // Every point of a fast stroke counts.
-  QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
-  QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
   QApplication::setStyle(new ShortHandles);
   app.emplace(argc, argv);
+  // Every point of a fast stroke counts. Told after the application is made, as making it for X11 turns the merging on.
+  QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+  QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setPalette(light_palette());
   QApplication::setFont(font_of(forms::Font{}));
