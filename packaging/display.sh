@@ -26,11 +26,11 @@ start() {
   services+=("$started")
 }
 
-# until_true WHAT COMMAND...: waits for it at most ten seconds; then the script ends with the logs in $scratch
+# until_true WHAT COMMAND...: waits for it at most twenty seconds; then the script ends with the logs in $scratch
 until_true() {
-  local tries=200
+  local end=$((SECONDS + 20))
   until "${@:2}" >/dev/null 2>&1; do
-    if ((tries-- == 0)); then
+    if ((SECONDS > end)); then
       echo "$(basename "$0"): not in time: $1" >&2
       tail -n 20 "$scratch"/*.log >&2
       exit 1

@@ -2,12 +2,22 @@
 # with the folder of the programs; it opens the editor, acts as a person does, and compares what is seen and what is saved
 # with pictures that ImageMagick draws.
 set -euo pipefail
+export LC_ALL=C.UTF-8
 desktop=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
 bin=$1
 . "$desktop/../../packaging/display.sh"
 # Leaks of Qt's and fontconfig's caches are none of the editor's; everything else that a sanitizer finds ends the program.
 export ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1
 start_display
+
+# A scenario that fails leaves what the screen showed beside the programs' folder.
+keep_screen() {
+  local status=$?
+  [ $status = 0 ] || import -silent -window root "$bin/../$(basename "$0" .sh).png" || true
+  end_services
+  exit $status
+}
+trap keep_screen EXIT
 
 fail() {
   echo "$(basename "$0"): $1" >&2
@@ -17,11 +27,16 @@ fail() {
 
 # --- pictures
 
-# picture FILE [CONVERT_ARGUMENT...]: the test picture, 160 x 120, no two neighbours alike, changed as the arguments say.
-# Its corner pixel has a colour that stands nowhere else on the screen.
+# picture FILE [CONVERT_ARGUMENT...]: the test picture, 160 x 120, changed as the arguments say. Every pixel differs from
+# its neighbours; the corner pixel has a colour that stands nowhere else on the screen.
 picture() {
-  convert -size 160x120 gradient:'#204060'-'#E0C0A0' \( -size 120x160 gradient:'#000000'-'#1F3F5F' -rotate 90 \) -compose plus \
-    -composite -depth 8 -fill '#FF01FE' -draw 'point 0,0' "${@:2}" -type TrueColor BMP3:"$1"
+  picture_of 160 120 "$@"
+}
+
+# picture_of WIDTH HEIGHT FILE [CONVERT_ARGUMENT...]
+picture_of() {
+  convert -size "$1x$2" gradient:'#204060'-'#E0C0A0' \( -size "$2x$1" gradient:'#000000'-'#1F3F5F' -rotate 90 \) \
+    -compose plus -composite -depth 8 -fill '#FF01FE' -draw 'point 0,0' "${@:4}" +repage -type TrueColor BMP3:"$3"
 }
 
 # same FILE FILE: size and every pixel
@@ -29,19 +44,20 @@ same() {
   [ "$(compare -metric AE "$1" "$2" null: 2>&1)" = 0 ]
 }
 
-# expect_saved FILE FILE
 expect_same() {
   same "$1" "$2" || fail "$1 and $2 differ in $(compare -metric AE "$1" "$2" null: 2>&1 || true) pixels"
 }
 
 # --- the program
 
-# open_editor FILE: with a program directory of its own; sets $window, and $left and $top, the place of DRAW on the screen.
+# open_editor FILE [VARIABLE=VALUE...]: as at a first start, in a program directory of its own; sets $editor, its process,
+# and $window, and finds the picture.
 open_editor() {
-  start env KISO_HOME="$scratch/home" "$bin/KISO72" "$1" &>"$scratch/KISO72.log"
+  mkdir -p "$scratch/home"
+  cp "$desktop"/../../assets/DEFAULT.* "$scratch/home"
+  start env "${@:2}" KISO_HOME="$scratch/home" "$bin/KISO72" "$1" &>"$scratch/KISO72.log"
   editor=$started
-  window=
-  until_true "the window of $1" find_window "Kiso .*$(basename "$1")"
+  until_true "the window of $1" find_window "Kiso :.*$(basename "$1")"
   until_true "the picture on the screen" find_draw
 }
 
@@ -51,45 +67,97 @@ find_window() {
   [ -n "$window" ]
 }
 
-# The corner pixel of the picture is the only one of its colour.
+# Sets $left and $top, the place of DRAW's first pixel on the screen, and $scale, the screen pixels a side of a pixel of
+# the picture: the corner pixel is the only thing of its colour.
 find_draw() {
-  local width height
-  read -r width height left top < <(import -silent -window root miff:- |
+  local height
+  read -r scale height left top < <(import -silent -window root miff:- |
     convert - -fill black +opaque '#FF01FE' -trim -format '%w %h %X %Y\n' info:)
-  [ "$width$height" = 11 ]
+  [ "$scale" = "$height" ] && [ "$scale" -le 16 ]
 }
 
-# shows FILE [SCALE]: the picture stands at DRAW's place on the screen, each pixel SCALE x SCALE
+# shows FILE: the picture stands at DRAW's place on the screen, each pixel a sharp square
 shows() {
-  convert "$1" -scale "$((${2:-1} * 100))%" "$scratch/wanted.png"
+  convert "$1" -scale "$((scale * 100))%" "$scratch/wanted.png"
   import -silent -window root -crop "$(identify -format '%wx%h' "$scratch/wanted.png")+$((left))+$((top))" +repage \
     "$scratch/seen.png"
   same "$scratch/wanted.png" "$scratch/seen.png"
 }
 
+expect_shows() {
+  until_true "$(basename "$1") on the screen" shows "$1"
+}
+
 # --- the person
 
-# to X Y ...: moves the pointer from point to point, in pixels of DRAW
+# to X Y ...: moves the pointer from point to point, in pixels of the picture as it is seen
 to() {
   local moves=()
   while [ $# -gt 0 ]; do
-    moves+=(mousemove $((left + $1)) $((top + $2)))
+    moves+=(mousemove $((left + $1 * scale + scale / 2)) $((top + $2 * scale + scale / 2)))
     shift 2
   done
   xdotool "${moves[@]}"
 }
 
-# stroke X Y ...: a stroke with the left button through these points, as fast as the display takes them
+# stroke X Y ...: a stroke with the left button through these points, as fast as the display takes them. The press is
+# waited for: a window manager holds it back while it gives the window the focus, and the display throws moves away
+# meanwhile.
 stroke() {
+  local before
   to "$1" "$2"
+  before=$(dot_at "$1" "$2")
   xdotool mousedown 1
+  until_true "the first dot of the stroke" eval "[ '$before' != \"\$(dot_at $1 $2)\" ]"
   to "$@"
   xdotool mouseup 1
 }
 
-# keypad DIGIT...: the keypad's keys, with the lock on
-declare -A KEYPAD=([7]=79 [8]=80 [9]=81 [4]=83 [6]=85 [1]=87 [2]=88 [3]=89 [0]=90)
+# dot_at X Y: the colour on the screen
+dot_at() {
+  import -silent -window root -crop "1x1+$((left + $1 * scale))+$((top + $2 * scale))" txt:- | tail -n 1
+}
+
+# keypad DIGIT...: presses and releases keys of the keypad; the lock has to be on
+declare -A KEYPAD=([7]=79 [8]=80 [9]=81 [4]=83 [5]=84 [6]=85 [1]=87 [2]=88 [3]=89 [0]=90)
 keypad() {
   local digit
   for digit; do xdotool key "${KEYPAD[$digit]}"; done
+}
+
+# button TOP ROW COLUMN: a click on a button of the palette, in the panel that begins at TOP
+ROOT_GROUPS=4 ROOT_PANEL=56 EXP_GROUPS=4 EXP_PANEL=32
+button() {
+  local id x y
+  read -r x y < <(for id in $(xdotool search --onlyvisible --name '^Kiso $'); do
+    xwininfo -id "$id" | awk '/Absolute.*X/ { x = $4 } /Absolute.*Y/ { print x, $4 }'
+  done | sort -n -k 2 | tail -n 1)  # it stands below the colour window
+  xdotool mousemove $((x + 4 + 24 * $3 + 12)) $((y + $1 + 24 * $2 + 12)) click 1
+}
+
+# answer TITLE STEPS: takes the button of the box of that title which is STEPS to the left of the one that is proposed
+answer() {
+  local i
+  until_true "the box '$1'" box_is_open "$1"
+  for ((i = 0; i < $2; i++)); do xdotool key Left; done
+  xdotool key Return
+}
+
+box_is_open() {
+  local box
+  box=$(xdotool getactivewindow)
+  [ "$(xdotool getwindowname "$box")" = "$1" ] && xprop -id "$box" _NET_WM_WINDOW_TYPE | grep -q DIALOG
+}
+
+# Closes the window by the key of its frame; the end dialog's No saves the picture under its own name.
+end_with_save() {
+  xdotool key alt+F4
+  answer 'Kiso 終了' 1
+  answer 'Kiso ' 1
+  until_true "the end of the program" not_running
+  wait "$editor" || fail "the program ended with status $?"
+}
+
+not_running() {
+  ! kill -0 "$editor"
 }
