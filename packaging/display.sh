@@ -42,7 +42,7 @@ until_true() {
 # A display of 1280 x 800 pixels with a window manager; sets DISPLAY.
 start_display() {
   exec 3>"$scratch/display"
-  start Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp &>"$scratch/Xvfb.log"
+  start Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset &>"$scratch/Xvfb.log"
   until_true "the virtual display" test -s "$scratch/display"
   exec 3>&-
   export DISPLAY=:$(<"$scratch/display")
