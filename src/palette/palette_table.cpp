@@ -145,8 +145,8 @@ constexpr PalGroup GROUPS[] = {
     {OPT_W_B, 3, "OPT_W_IMG", nullptr, [](int i) -> ImageBox& { return CMD_WIN.OPT_W_B(i); }},
 };
 
-// The two palettes lie one on the other and cover each other whole, so a base reaches down to its panels, 4 pixels below
-// its buttons. The expansion palette has one row of group buttons less and its panels are that much higher.
+// The two palettes lie one on the other and cover each other whole, so a base reaches down to its panels, 4 pixels
+// below its buttons. The expansion palette has one row of group buttons less and its panels are that much higher.
 constexpr PanelPlace PANELS[] = {
     {P::ROOT_B_BASE, 4, 4, 96, 52, [] { return &CMD_WIN.ROOT_B_BASE; }},
     {P::ROOT_M0, 4, 56, 96, 72, [] { return &CMD_WIN.ROOT_M(0); }},
