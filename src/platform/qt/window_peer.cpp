@@ -130,10 +130,12 @@ void WindowPeer::set_state() {
   widget->setWindowState(s);
 }
 
+// A window manager keeps a window above its owner only if it has met the owner first, so one that is shown before its
+// owner ever was comes to the screen right after it.
 void WindowPeer::appear() {
-  const Window* owner = window_.owner();
-  QWidget* above = owner ? widget_of(*owner) : nullptr;
-  handle()->setTransientParent(above ? above->windowHandle() : nullptr);
+  const WindowPeer* owner = window_.owner() ? peer_of(*window_.owner()) : nullptr;
+  if (owner && !owner->widget) return;
+  handle()->setTransientParent(owner ? owner->handle() : nullptr);
   if (widget->isVisible()) {
     widget->raise();
     return;
@@ -141,6 +143,10 @@ void WindowPeer::appear() {
   was_exposed_ = false;
   set_state();
   widget->setVisible(true);
+  for (const Window* w : forms::all_windows()) {
+    WindowPeer* owned = w->owner() == &window_ && w->is_visible() ? peer_of(*w) : nullptr;
+    if (owned && owned->widget && !owned->widget->isVisible()) owned->appear();
+  }
 }
 
 void WindowPeer::update(uint32_t changes) {
