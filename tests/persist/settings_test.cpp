@@ -225,6 +225,13 @@ TEST_F(Settings, AMainWindowOffTheScreenComesBack) {
   EXPECT_EQ(P_WIN.Height(), 15360);
 }
 
+TEST_F(Settings, NoEventSeesAMainWindowBeyondTheScreen) {
+  static double widest = 0;
+  P_WIN.Form_Resize = [] { widest = std::max(widest, P_WIN.ScaleWidth()); };
+  read({"FEMD , 1", "PIWW , 600000"});
+  EXPECT_EQ(widest, 1280);
+}
+
 TEST_F(Settings, APaletteOffTheScreenComesBackWhole) {
   read({"FEMD , 1", "COWL , -1", "COWT , -1", "CMWL , 19198", "CMWT , 15358"});
   EXPECT_EQ(COL_LEFT, 0);
