@@ -79,6 +79,7 @@ bool TextPeer::eventFilter(QObject* /*watched*/, QEvent* event) {
   return false;
 }
 
+// The keyboard belongs to the box as a whole, which hands the keys on to its field.
 class ComboPeer final : public ControlPeer {
  public:
   explicit ComboPeer(forms::ComboBox& box) : ControlPeer(box), box_(box) {}
@@ -86,8 +87,8 @@ class ComboPeer final : public ControlPeer {
  protected:
   QWidget* make(QWidget* parent) override;
   void refresh(uint32_t changes) override;
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::KeyPress && watched != widget()) announce_key(box_, *static_cast<QKeyEvent*>(event));
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress) announce_key(box_, *static_cast<QKeyEvent*>(event));
     return false;
   }
 
@@ -102,7 +103,6 @@ QWidget* ComboPeer::make(QWidget* parent) {
   w->setInsertPolicy(QComboBox::NoInsert);
   w->setCompleter(nullptr);
   w->lineEdit()->setContextMenuPolicy(Qt::PreventContextMenu);
-  w->lineEdit()->installEventFilter(this);
   connect(w->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
     if (reachable()) user_event([&] { box_.Text(from_qt(text)); });
   });
