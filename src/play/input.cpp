@@ -161,7 +161,7 @@ Key read_key(const Args& args) {
     key.shift |= args[i] == "shift" ? 1 : 2;
   }
   const std::string& code = args[1];
-  const bool is_character = code.size() == 1 && !(code[0] >= '0' && code[0] <= '9');
+  const bool is_character = code.size() == 1 && (player.quoted[1] || !(code[0] >= '0' && code[0] <= '9'));
   if (is_character) {
     key.character = static_cast<unsigned char>(code[0]);
     key.code = key.character >= 'a' && key.character <= 'z' ? key.character - 32 : key.character;

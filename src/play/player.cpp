@@ -42,7 +42,11 @@ void run_line(const std::vector<Word>& words) {
   }
   if (command.needs_window && !player.started) throw ScriptError(words[0].text + " comes before start");
   Args args;
-  for (auto word = words.begin() + 1; word != words.end(); ++word) args.push_back(word->text);
+  player.quoted.clear();
+  for (auto word = words.begin() + 1; word != words.end(); ++word) {
+    args.push_back(word->text);
+    player.quoted.push_back(word->quoted);
+  }
   command.run(args);
   if (!player.failure.empty()) throw ScriptError(std::exchange(player.failure, {}));
 }

@@ -34,6 +34,7 @@ struct Player {
   std::deque<std::vector<std::string>> boxes;            // not yet asked about: style, title, text
   std::string failure;                                   // a ScriptError found inside of an event
   std::string expected;                                  // what the running expectation wants, for its message
+  std::vector<bool> quoted;                              // which arguments of the running command stood in quotes
 
   void say(const std::string& line);  // on standard output
   void expect(bool holds, const std::string& wanted, const std::string& found);
