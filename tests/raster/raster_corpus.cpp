@@ -285,7 +285,7 @@ class Case {
         right += want == got ? '.' : 'X';
         same &= want == got;
       }
-      text += left + "  " + middle + "  " + right + "\n";
+      text.append(left).append("  ").append(middle).append("  ").append(right).append("\n");
     }
     if (!same) failure_ = "expected, drawn, different:\n" + text;
   }

@@ -43,7 +43,8 @@ RASTER_AVX2 void compare_avx2(const Surface& s, int band, int first, int end, co
   for (int bx = first; bx < end; ++bx) {
     uint64_t same = 0;
     for (int r = 0; r < rows; ++r) {
-      const __m256i pixels = _mm256_load_si256(reinterpret_cast<const __m256i*>(top + r * s.stride() + bx * 32));
+      const __m256i pixels =
+          _mm256_load_si256(reinterpret_cast<const __m256i*>(top + r * s.stride() + ptrdiff_t{bx} * 32));
       const __m256i equal = _mm256_cmpeq_epi32(pixels, value);
       same |= uint64_t{static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(equal)))} << r * 8;
     }

@@ -17,8 +17,8 @@ void clip_axis(int64_t& dest, int64_t& src, int64_t& n, int64_t dest_limit, int6
 }
 
 void copy_rows(Surface& dest, int x, int y, int w, int h, const Surface& src, int sx, int sy) {
-  const int bytes = dest.depth() / 8;
-  const size_t n = static_cast<size_t>(w) * static_cast<size_t>(bytes);
+  const ptrdiff_t bytes = dest.depth() / 8;
+  const size_t n = static_cast<size_t>(w * bytes);
   if (w == dest.width() && w == src.width()) {  // whole rows lie behind one another
     const size_t all = static_cast<size_t>(h - 1) * static_cast<size_t>(dest.stride()) + n;
     std::memmove(dest.row(y), src.row(sy), all);

@@ -25,10 +25,10 @@ void shape_dot(int n) {
   scratch.dot_left.assign(static_cast<size_t>(n), 0);
   const int64_t even = 1 - n % 2;
   for (int j = 0; j < n; ++j) {
-    const int64_t v = 2 * (j - n / 2) + even;
-    int left = -(n / 2);
+    const int64_t v = 2 * (int64_t{j} - n / 2) + even;
+    int64_t left = -(n / 2);
     while (2 * ((2 * left + even) * (2 * left + even) + v * v) > 2 * int64_t{n} * n - n) ++left;
-    scratch.dot_left[static_cast<size_t>(j)] = left;
+    scratch.dot_left[static_cast<size_t>(j)] = static_cast<int>(left);
   }
 }
 
