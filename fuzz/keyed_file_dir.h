@@ -5,6 +5,7 @@
 #include <stdlib.h>
 
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -19,6 +20,7 @@ inline void open_program_dir() {
   if (!APP_PATH.empty()) return;
   char in_memory[] = "/dev/shm/kiso_fuzz_XXXXXX", on_disk[] = "/tmp/kiso_fuzz_XXXXXX";
   APP_PATH = mkdtemp(in_memory) ? in_memory : mkdtemp(on_disk);
+  atexit([] { std::filesystem::remove_all(APP_PATH); });
   for (Window* w : {static_cast<Window*>(&P_WIN), static_cast<Window*>(&CMD_WIN), static_cast<Window*>(&COL_WIN)})
     w->Form_Load = w->Form_Resize = [] {};
 }
