@@ -8,9 +8,9 @@
 #include "platform/qt/boxes.h"
 #include "platform/qt/images.h"
 #include "platform/qt/look.h"
-#include "platform/qt/nominal_frame.h"
 #include "platform/qt/peer.h"
 #include "platform/qt/pointer.h"
+#include "platform/qt/x11.h"
 
 namespace qt {
 
@@ -24,7 +24,8 @@ QtDesktop::QtDesktop(int& argc, char** argv, bool offscreen)
   screen_h = screen->size().height();
   depth = pixel_depth(screen->depth());
   png = decode_png;
-  const QSize frame = nominal_frame();
+  let_held_keys_repeat();
+  const QSize frame = coming_frame();
   frame_w = frame.width();
   frame_h = frame.height();
 }

@@ -11,7 +11,6 @@
 
 #include "platform/qt/keys.h"
 #include "platform/qt/look.h"
-#include "platform/qt/nominal_frame.h"
 #include "platform/qt/peer.h"
 
 namespace qt {
@@ -80,6 +79,9 @@ class WindowPeer final : public QObject, public forms::Peer {
 };
 
 WindowPeer* peer_of(const Window& window) { return dynamic_cast<WindowPeer*>(window.peer.get()); }
+
+// A display in memory makes up its frames.
+bool has_real_frames() { return QGuiApplication::platformName() != QLatin1String("offscreen"); }
 
 int pixels(double twips) { return static_cast<int>(std::lround(twips / forms::TWIPS)); }
 
@@ -207,7 +209,7 @@ void WindowPeer::follow() {
       const int frame_w = frame.left() + frame.right();
       const int frame_h = frame.top() + frame.bottom();
       if (has_real_frames() && (frame_w != w.frame_w() || frame_h != w.frame_h())) {
-        learn_frame(w, frame_w, frame_h);
+        w.framed(frame_w, frame_h);
         if (inside != QSize(w.inside_w(), w.inside_h())) return;  // the new inside comes to the display now
       }
       if (at.x() != pixels(w.Left()) || at.y() != pixels(w.Top()))
@@ -242,6 +244,8 @@ void WindowPeer::key_pressed(QKeyEvent* event) {
     }
     if (window_.Form_KeyPress) return user_event([&] { window_.Form_KeyPress.fire(-1, enter ? 13 : 27); });
   }
+  const QWidget* typed_into = widget->focusWidget();
+  if (typed_into && typed_into->testAttribute(Qt::WA_InputMethodEnabled)) return;
   const Window* to = is_tool(window_) ? window_.owner() : &window_;
   QWidget* target = to && forms::reachable(*to) ? keyboard_of(*to) : nullptr;
   if (target) QCoreApplication::sendEvent(target, event);
