@@ -11,8 +11,6 @@ constinit std::vector<Window*> windows;
 Desktop unseen;
 constinit Desktop* the_desktop = &unseen;
 
-// How many event procedures are running, one inside the other.
-constinit int depth_of_events = 0;
 constinit bool ended = false;
 constinit int ended_by = 0;
 
@@ -37,7 +35,6 @@ void Desktop::text_size(const std::string& text, const Font& font, int& width, i
 
 bool enter_raw(void (*run)(void*), void* with) {
   if (ended) return false;
-  ++depth_of_events;
   try {
     run(with);
   } catch (const ProgramEnd&) {
@@ -51,7 +48,7 @@ bool enter_raw(void (*run)(void*), void* with) {
     the_desktop->error_box(7, error_text(7));
     stop_program();
   }
-  if (--depth_of_events == 0 && !ended) flush();
+  if (!ended) flush();
   return !ended;
 }
 

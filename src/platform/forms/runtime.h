@@ -50,7 +50,8 @@ struct ProgramEnd {};  // thrown by End; passes through all procedures up to the
 
 bool enter_raw(void (*run)(void*), void* with);
 // Runs an event procedure. Whatever it throws stops here: a run-time error is shown in the platform's box and ends the
-// process. When the outermost one returns, what has changed goes to the screen. False if the program has ended.
+// process. When it returns, what has changed goes to the screen, also while a procedure around it waits for a box or is
+// in DoEvents. False if the program has ended.
 template <class F>
 bool enter(F&& procedure) {
   return enter_raw([](void* f) { (*static_cast<std::remove_reference_t<F>*>(f))(); },

@@ -3,6 +3,7 @@
 #include <QProxyStyle>
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 
 #include "platform/forms/runtime.h"
 #include "platform/qt/look.h"
@@ -35,6 +36,11 @@ class ShortHandles : public QProxyStyle {
   }
 };
 
+// What a display in memory can not do is no news to who runs a script on it.
+void pass_over_warnings(QtMsgType type, const QMessageLogContext& /*where*/, const QString& text) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
 }  // namespace
 
 QByteArray whole_scales(const QByteArray& scales) {
@@ -62,6 +68,7 @@ Application::Application(int& argc, char** argv, bool offscreen) {
   const WhileMade no_gl("QT_XCB_GL_INTEGRATION", "none");
   const WhileMade platform("QT_QPA_PLATFORM", offscreen ? QByteArray("offscreen") : qgetenv("QT_QPA_PLATFORM"));
 
+  if (offscreen) qInstallMessageHandler(pass_over_warnings);
   QApplication::setStyle(new ShortHandles);
   app.emplace(argc, argv);
   // Every point of a fast stroke counts. Told after the application is made, as making it for X11 turns the merging on.

@@ -8,34 +8,13 @@
 #include "platform/qt/look.h"
 #include "platform/qt/peer.h"
 #include "platform/qt/pointer.h"
+#include "platform/qt/surface_image.h"
 
 namespace qt {
 
 using forms::PictureBox;
 
 namespace {
-
-// 8 bits are 3-3-2, each field spread over the whole range.
-QList<QRgb> colours_332(const raster::Surface& surface) {
-  QList<QRgb> table(256);
-  for (uint32_t pixel = 0; pixel < 256; ++pixel) table[pixel] = colour_of(surface.to_colour(pixel)).rgb();
-  return table;
-}
-
-// The surface's own memory as an image.
-QImage image_over(const raster::Surface& surface) {
-  constexpr auto format = [](int depth) {
-    switch (depth) {
-      case 24: return QImage::Format_BGR888;
-      case 16: return QImage::Format_RGB16;
-      case 8: return QImage::Format_Indexed8;
-      default: return QImage::Format_RGB32;
-    }
-  };
-  QImage image(surface.row(0), surface.width(), surface.height(), surface.stride(), format(surface.depth()));
-  if (surface.depth() == 8) image.setColorTable(colours_332(surface));
-  return image;
-}
 
 class PicturePeer final : public ControlPeer {
  public:

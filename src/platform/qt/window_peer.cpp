@@ -155,7 +155,8 @@ void WindowPeer::update(uint32_t changes) {
   const Quiet quiet;
   if (!widget && !window_.is_visible()) return;
   if (!widget) realize();
-  if (changes & forms::GEOMETRY) place();
+  // A maximized window keeps the size that it has to come back to.
+  if ((changes & forms::GEOMETRY) && window_.WindowState() == NORMAL) place();
   if (changes & forms::TEXT) widget->setWindowTitle(to_qt(window_.Caption()));
   if (changes & forms::POINTER) {
     widget->setCursor(cursor_of(window_.MousePointer(), window_.MouseIcon(), widget->devicePixelRatio()));

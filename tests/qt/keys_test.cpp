@@ -1,0 +1,140 @@
+#include "platform/qt/keys.h"
+
+#include "qt/display.h"
+
+namespace kiso_test {
+
+namespace {
+
+int number(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, quint32 scan_code = 0) {
+  return qt::key_number(QKeyEvent(QEvent::KeyPress, key, modifiers, scan_code, 0, 0));
+}
+
+int character(int key, const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  return qt::key_character(QKeyEvent(QEvent::KeyPress, key, modifiers, text));
+}
+
+TEST(Keys, LettersDigitsAndNamedKeysHaveThePlatformsNumbers) {
+  EXPECT_EQ(number(Qt::Key_A), 65);
+  EXPECT_EQ(number(Qt::Key_Z), 90);
+  EXPECT_EQ(number(Qt::Key_0), 48);
+  EXPECT_EQ(number(Qt::Key_9), 57);
+  EXPECT_EQ(number(Qt::Key_PageUp), 33);
+  EXPECT_EQ(number(Qt::Key_PageDown), 34);
+  EXPECT_EQ(number(Qt::Key_Left), 37);
+  EXPECT_EQ(number(Qt::Key_Up), 38);
+  EXPECT_EQ(number(Qt::Key_Right), 39);
+  EXPECT_EQ(number(Qt::Key_Down), 40);
+  EXPECT_EQ(number(Qt::Key_Space), 32);
+  EXPECT_EQ(number(Qt::Key_Return), 13);
+  EXPECT_EQ(number(Qt::Key_Escape), 27);
+  EXPECT_EQ(number(Qt::Key_Tab), 9);
+  EXPECT_EQ(number(Qt::Key_Backspace), 8);
+  EXPECT_EQ(number(Qt::Key_Delete), 46);
+  EXPECT_EQ(number(Qt::Key_Insert), 45);
+  EXPECT_EQ(number(Qt::Key_Home), 36);
+  EXPECT_EQ(number(Qt::Key_End), 35);
+  EXPECT_EQ(number(Qt::Key_F1), 112);
+  EXPECT_EQ(number(Qt::Key_F12), 123);
+  EXPECT_EQ(number(Qt::Key_MediaPlay), 0);
+}
+
+TEST(Keys, KeypadHasItsNumbersWithNumLockOnAndOff) {
+  constexpr int OFF[] = {Qt::Key_Insert, Qt::Key_End,   Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Left,
+                         Qt::Key_Clear,  Qt::Key_Right, Qt::Key_Home, Qt::Key_Up,       Qt::Key_PageUp};
+  for (int n = 0; n < 10; ++n) {
+    EXPECT_EQ(number(Qt::Key_0 + n, Qt::KeypadModifier), 96 + n);
+    EXPECT_EQ(number(OFF[n], Qt::KeypadModifier), 96 + n);
+    EXPECT_EQ(number(OFF[n], Qt::KeypadModifier | Qt::ShiftModifier), 96 + n);
+  }
+  EXPECT_EQ(number(Qt::Key_Enter, Qt::KeypadModifier), 13);
+  EXPECT_EQ(number(Qt::Key_Asterisk, Qt::KeypadModifier), 106);
+  EXPECT_EQ(number(Qt::Key_Plus, Qt::KeypadModifier), 107);
+  EXPECT_EQ(number(Qt::Key_Minus, Qt::KeypadModifier), 109);
+  EXPECT_EQ(number(Qt::Key_Period, Qt::KeypadModifier), 110);
+  EXPECT_EQ(number(Qt::Key_Slash, Qt::KeypadModifier), 111);
+}
+
+TEST(Keys, DigitWithShiftKeepsItsNumber) {
+  EXPECT_EQ(number(Qt::Key_Exclam, Qt::ShiftModifier, 10), 49);
+  EXPECT_EQ(number(Qt::Key_ParenLeft, Qt::ShiftModifier, 18), 57);
+  EXPECT_EQ(number(Qt::Key_ParenRight, Qt::ShiftModifier, 19), 48);
+}
+
+TEST(Keys, CharactersAreThoseTyped) {
+  EXPECT_EQ(character(Qt::Key_A, "a"), 97);
+  EXPECT_EQ(character(Qt::Key_A, "A", Qt::ShiftModifier), 65);
+  EXPECT_EQ(character(Qt::Key_Space, " "), 32);
+  EXPECT_EQ(character(Qt::Key_Return, "\r"), 13);
+  EXPECT_EQ(character(Qt::Key_Escape, "\x1b"), 27);
+  EXPECT_EQ(character(Qt::Key_8, "8", Qt::KeypadModifier), 56);
+  EXPECT_EQ(character(Qt::Key_Left, ""), 0);
+  EXPECT_EQ(character(Qt::Key_Delete, "\x7f"), 0);
+  EXPECT_EQ(character(Qt::Key_unknown, "あ"), 0);
+}
+
+class KeysOnDisplay : public Display {
+ protected:
+  KeysOnDisplay() {
+    logic([] { P.Show(); });
+    settle();
+    taken();
+  }
+};
+
+TEST_F(KeysOnDisplay, KeyGoesDownThenGivesItsCharacterThenGoesUp) {
+  key(QEvent::KeyPress, widget(P.DRAW), Qt::Key_B, "B", Qt::ShiftModifier);
+  key(QEvent::KeyRelease, widget(P.DRAW), Qt::Key_B, "B", Qt::ShiftModifier);
+  EXPECT_EQ(taken(), (Said{"key 66 1", "character 66", "key up 66 1"}));
+}
+
+TEST_F(KeysOnDisplay, HeldKeyRepeatsItsPressAlone) {
+  const auto keypad_0 = [](QEvent::Type type, bool repeated) {
+    key(type, widget(P.DRAW), Qt::Key_Insert, "", Qt::KeypadModifier, repeated);
+  };
+  keypad_0(QEvent::KeyPress, false);
+  keypad_0(QEvent::KeyRelease, true);
+  keypad_0(QEvent::KeyPress, true);
+  keypad_0(QEvent::KeyRelease, false);
+  EXPECT_EQ(taken(), (Said{"key 96 0", "key 96 0", "key up 96 0"}));
+}
+
+TEST_F(KeysOnDisplay, TabIsAKeyOfThePictureLikeAnyOther) {
+  key(QEvent::KeyPress, widget(P.DRAW), Qt::Key_Tab, "\t");
+  EXPECT_EQ(taken(), (Said{"key 9 0", "character 9"}));
+  EXPECT_TRUE(widget(P.DRAW)->hasFocus());
+}
+
+TEST_F(KeysOnDisplay, PictureThatIsDisabledSwallowsItsKeys) {
+  logic([] { P.DRAW.Enabled(false); });
+  key(QEvent::KeyPress, widget(P.DRAW), Qt::Key_A, "a");
+  EXPECT_EQ(taken(), Said{});
+}
+
+TEST_F(KeysOnDisplay, InputMethodStaysAwayFromThePicture) {
+  EXPECT_FALSE(widget(P.DRAW)->testAttribute(Qt::WA_InputMethodEnabled));
+  EXPECT_FALSE(widget(P.DMY)->testAttribute(Qt::WA_InputMethodEnabled));
+}
+
+TEST_F(KeysOnDisplay, PictureHasTheKeyboardFromTheStart) { EXPECT_TRUE(widget(P.DRAW)->hasFocus()); }
+
+TEST_F(KeysOnDisplay, KeyOfAPaletteGoesToWhatHadTheKeyboardLast) {
+  logic([] { TOOL.Show(&P); });
+  settle();
+  taken();
+  key(QEvent::KeyPress, qt::widget_of(TOOL), Qt::Key_A, "a");
+  EXPECT_EQ(taken(), (Said{"key 65 0", "character 97"}));
+  logic([] { P.DMY.SetFocus(); });
+  key(QEvent::KeyPress, qt::widget_of(TOOL), Qt::Key_A, "a");
+  EXPECT_EQ(taken(), (Said{"DMY character 97"}));
+}
+
+TEST_F(KeysOnDisplay, PaletteWithoutTextFieldsNeverTakesTheKeyboard) {
+  logic([] { TOOL.Show(&P); });
+  EXPECT_TRUE(qt::widget_of(TOOL)->windowFlags() & Qt::WindowDoesNotAcceptFocus);
+  EXPECT_EQ(widget(TOOL.UNDO)->focusPolicy(), Qt::NoFocus);
+  EXPECT_EQ(widget(P.X_SC)->focusPolicy(), Qt::NoFocus);
+}
+
+}  // namespace
+}  // namespace kiso_test
