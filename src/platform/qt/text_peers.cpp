@@ -47,6 +47,7 @@ QWidget* TextPeer::make(QWidget* parent) {
     connect(page_, &QPlainTextEdit::textChanged, this, [this] { typed(page_->toPlainText()); });
   } else {
     line_ = new QLineEdit(parent);
+    line_->setReadOnly(box_.read_only);
     connect(line_, &QLineEdit::textChanged, this, [this](const QString& text) { typed(text); });
   }
   QWidget* w = page_ ? static_cast<QWidget*>(page_) : line_;
