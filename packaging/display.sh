@@ -47,6 +47,10 @@ start_display() {
   exec 3>&-
   export DISPLAY=:$(<"$scratch/display")
   unset WAYLAND_DISPLAY
+  if [ -z "${XDG_RUNTIME_DIR:-}" ]; then  # where nobody has logged in
+    mkdir -m 700 "$scratch/runtime"
+    export XDG_RUNTIME_DIR=$scratch/runtime
+  fi
   start openbox &>"$scratch/openbox.log"
   until_true "the window manager" eval 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'
 }
