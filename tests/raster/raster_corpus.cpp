@@ -218,15 +218,11 @@ class Case {
     const int left = w.number(), top = w.number(), right = w.number(), bottom = w.number();
     Ellipse(s, left, top, right, bottom);
   }
-  void do_extflood(Words& w) {
+  template <void (*Fill)(Surface&, int, int, Colour)>
+  void do_fill(Words& w) {
     Surface& s = surface(w);
     const int x = w.number(), y = w.number();
-    ExtFloodFill(s, x, y, w.colour());
-  }
-  void do_flood(Words& w) {
-    Surface& s = surface(w);
-    const int x = w.number(), y = w.number();
-    FloodFill(s, x, y, w.colour());
+    Fill(s, x, y, w.colour());
   }
   void do_bitblt(Words& w) {
     Surface& dest = surface(w);
@@ -298,11 +294,21 @@ class Case {
 };
 
 const Case::Command Case::COMMANDS[15] = {
-    {"surface", &Case::do_surface},   {"load", &Case::do_load},         {"noise", &Case::do_noise},
-    {"pset", &Case::do_pset},         {"draw", &Case::do_draw},         {"line", &Case::do_line},
-    {"polygon", &Case::do_polygon},   {"bezier", &Case::do_bezier},     {"ellipse", &Case::do_ellipse},
-    {"extflood", &Case::do_extflood}, {"flood", &Case::do_flood},       {"bitblt", &Case::do_bitblt},
-    {"stretch", &Case::do_stretch},   {"getpixel", &Case::do_getpixel}, {"expect", &Case::do_expect},
+    {"surface", &Case::do_surface},
+    {"load", &Case::do_load},
+    {"noise", &Case::do_noise},
+    {"pset", &Case::do_pset},
+    {"draw", &Case::do_draw},
+    {"line", &Case::do_line},
+    {"polygon", &Case::do_polygon},
+    {"bezier", &Case::do_bezier},
+    {"ellipse", &Case::do_ellipse},
+    {"extflood", &Case::do_fill<ExtFloodFill>},
+    {"flood", &Case::do_fill<FloodFill>},
+    {"bitblt", &Case::do_bitblt},
+    {"stretch", &Case::do_stretch},
+    {"getpixel", &Case::do_getpixel},
+    {"expect", &Case::do_expect},
 };
 
 struct Tally {
@@ -351,8 +357,10 @@ void run_file(const std::filesystem::path& path, bool show_information, Tally& t
   }
   std::vector<std::string> lines;
   std::string line;
+  bool any = false;
   auto finish = [&] {
     if (!lines.empty()) run_case(path.filename(), lines, show_information, tally);
+    any |= !lines.empty();
     lines.clear();
   };
   while (std::getline(in, line)) {
@@ -362,6 +370,9 @@ void run_file(const std::filesystem::path& path, bool show_information, Tally& t
       lines.push_back(line);
   }
   finish();
+  if (any) return;
+  std::printf("FAILED %s: no cases in it\n", path.c_str());
+  ++tally.failed;
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ struct Brush {
 Brush brush_of(const Surface& s);
 void brush_span(Surface& s, int y, int left, int right, const Brush& brush);
 
-// Both of width 1; the end point is not inked. Dotted lines have 3 pixels on, 3 off from their start.
+// Of width 1, without its end point. A dotted line has 3 pixels on, 3 off from its start.
 void thin_line(Surface& s, Point from, Point to, Ink ink);
 
 }  // namespace raster

@@ -174,13 +174,18 @@ void copy_singles(Surface& dest, const Axis& columns, const Axis& rows, const Su
     for (int k = 0; k < rows.count; ++k) to[k * to_step] = from[rows.low[k] * from_step];
     return;
   }
+  // A row that several rows of the destination show is gathered once, to where it stays in the nearest cache.
+  uint32_t line[MAX_SIDE];
   for (int k = 0; k < rows.count; ++k) {
     uint32_t* to = dest.row32(rows.start + k) + columns.start;
-    if (k > 0 && rows.low[k] == rows.low[k - 1]) {
-      std::memcpy(to, dest.row32(rows.start + k - 1) + columns.start, static_cast<size_t>(columns.count) * 4);
+    const uint32_t* from = src.row32(rows.low[k]);
+    const bool shown = k > 0 && rows.low[k] == rows.low[k - 1];
+    if (!shown && (k + 1 == rows.count || rows.low[k] != rows.low[k + 1])) {
+      gather_row(columns, from, to);
       continue;
     }
-    gather_row(columns, src.row32(rows.low[k]), to);
+    if (!shown) gather_row(columns, from, line);
+    std::memcpy(to, line, static_cast<size_t>(columns.count) * 4);
   }
 }
 
