@@ -14,7 +14,9 @@ int character(int key, const QString& text, Qt::KeyboardModifiers modifiers = Qt
   return qt::key_character(QKeyEvent(QEvent::KeyPress, key, modifiers, text));
 }
 
-TEST(Keys, LettersDigitsAndNamedKeysHaveThePlatformsNumbers) {
+class Keys : public Display {};
+
+TEST_F(Keys, LettersDigitsAndNamedKeysHaveThePlatformsNumbers) {
   EXPECT_EQ(number(Qt::Key_A), 65);
   EXPECT_EQ(number(Qt::Key_Z), 90);
   EXPECT_EQ(number(Qt::Key_0), 48);
@@ -39,7 +41,7 @@ TEST(Keys, LettersDigitsAndNamedKeysHaveThePlatformsNumbers) {
   EXPECT_EQ(number(Qt::Key_MediaPlay), 0);
 }
 
-TEST(Keys, KeypadHasItsNumbersWithNumLockOnAndOff) {
+TEST_F(Keys, KeypadHasItsNumbersWithNumLockOnAndOff) {
   constexpr int OFF[] = {Qt::Key_Insert, Qt::Key_End,   Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Left,
                          Qt::Key_Clear,  Qt::Key_Right, Qt::Key_Home, Qt::Key_Up,       Qt::Key_PageUp};
   for (int n = 0; n < 10; ++n) {
@@ -55,13 +57,13 @@ TEST(Keys, KeypadHasItsNumbersWithNumLockOnAndOff) {
   EXPECT_EQ(number(Qt::Key_Slash, Qt::KeypadModifier), 111);
 }
 
-TEST(Keys, DigitWithShiftKeepsItsNumber) {
+TEST_F(Keys, DigitWithShiftKeepsItsNumber) {
   EXPECT_EQ(number(Qt::Key_Exclam, Qt::ShiftModifier, 10), 49);
   EXPECT_EQ(number(Qt::Key_ParenLeft, Qt::ShiftModifier, 18), 57);
   EXPECT_EQ(number(Qt::Key_ParenRight, Qt::ShiftModifier, 19), 48);
 }
 
-TEST(Keys, CharactersAreThoseTyped) {
+TEST_F(Keys, CharactersAreThoseTyped) {
   EXPECT_EQ(character(Qt::Key_A, "a"), 97);
   EXPECT_EQ(character(Qt::Key_A, "A", Qt::ShiftModifier), 65);
   EXPECT_EQ(character(Qt::Key_Space, " "), 32);
