@@ -18,6 +18,12 @@ void PICK_EXIT() {
   TOOL_CHANGED();
 }
 
+void show_pane() {
+  for (int i = 0; i < COL_WIN.CSEL_BASE.count; ++i) COL_WIN.CSEL_BASE(i).Visible(i == COL_PANE);
+  COL_WIN.CSEL_BASE(COL_PANE).ToFront();
+  if (COL_PANE == 1) show_bars();
+}
+
 namespace {
 
 // A click on a colour box selects that colour; on the selected one it enters or leaves the pick tool.
@@ -41,15 +47,9 @@ void DES_COL_Click() { colour_box_click(1); }
 
 void open_pane(int16_t pane) {
   if (COL_PANE == pane) return;
-  COL_WIN.CSEL_BASE(COL_PANE).Visible(false);
   COL_PANE = pane;
-  // The bars are not kept up to date while they are closed.
-  if (pane == 1) {
-    COL_LOAD_WORK();
-    show_bars();
-  }
-  COL_WIN.CSEL_BASE(pane).Visible(true);
-  COL_WIN.CSEL_BASE(pane).ToFront();
+  if (pane == 1) COL_LOAD_WORK();  // the bars are not kept up to date while they are closed
+  show_pane();
 }
 void Command1_Click() { open_pane(0); }
 void Command2_Click() { open_pane(1); }
@@ -59,22 +59,17 @@ void Form_Load() {
   COL_WIN.Left(COL_LEFT);
   COL_WIN.Top(COL_TOP);
   COL_WIN.Caption(APP_TITLE);
-  for (int i = 0; i < COL_WIN.CSEL_BASE.count; ++i) {
-    COL_WIN.CSEL_BASE(i).Visible(false);
-    COL_WIN.CSEL_BASE(i).Move(0, 0);
-  }
+  for (int i = 0; i < COL_WIN.CSEL_BASE.count; ++i) COL_WIN.CSEL_BASE(i).Move(0, 0);
   DICT_CUR = 0;
   DICT_WRITE = 0;
-  COL_WIN.CSEL_BASE(COL_PANE).ToFront();
-  COL_WIN.CSEL_BASE(COL_PANE).Visible(true);
   COL_HSV_LOCK = 0;
   COL_RGB_LOCK = 0;
+  show_pane();
   // The word that is not the mode lies under the one that is.
   COL_WIN.Command4.Move(550, 1440, 905, 270);
   COL_WIN.Label7.Move(550, 1440, 905, 270);
   // A window that was closed by its frame comes back with the colours and dictionaries of this run.
   COL_DRAW_BARS(CUR_R, CUR_G, CUR_B);
-  if (COL_PANE == 1) show_bars();
   show_dictionaries();
 }
 

@@ -37,4 +37,10 @@ struct ColWin : Window {
 };
 extern ColWin COL_WIN;
 
+namespace col_win {
+
+void show_pane();  // the pane of COL_PANE and no other
+
+}  // namespace col_win
+
 }  // namespace kiso

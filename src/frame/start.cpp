@@ -70,7 +70,10 @@ void reload_last_picture() {
 
 // A picture of the command line has touched the palettes before the settings were read.
 void place_palettes() {
-  if (COL_WIN.Loaded()) COL_WIN.Move(COL_LEFT, COL_TOP);
+  if (COL_WIN.Loaded()) {
+    COL_WIN.Move(COL_LEFT, COL_TOP);
+    col_win::show_pane();
+  }
   if (CMD_WIN.Loaded()) CMD_WIN.Move(CMD_LEFT, COL_WIN.Height() + 1);
 }
 

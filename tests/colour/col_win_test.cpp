@@ -84,6 +84,19 @@ TEST_F(ColourWindow, OnePaneIsOpen) {
   open(0);
 }
 
+// The settings may be read when the window is already there.
+TEST_F(ColourWindow, APaneFromTheSettingsShows) {
+  COL_PANE = 2;
+  col_win::show_pane();
+  EXPECT_FALSE(COL_WIN.CSEL_BASE(0).Visible());
+  EXPECT_TRUE(COL_WIN.CSEL_BASE(2).Visible());
+  CUR_G = 40;
+  COL_PANE = 1;
+  col_win::show_pane();
+  EXPECT_FALSE(COL_WIN.CSEL_BASE(2).Visible());
+  EXPECT_EQ(rgb_bars(), (Three{0, 40, 0}));
+}
+
 TEST_F(ColourWindow, TheBarsShowTheColourWhenTheirPaneOpens) {
   set_target(255, 128, 128);
   click(COL_WIN.Command2);
