@@ -39,10 +39,10 @@ until_true() {
   done
 }
 
-# A display of 1280 x 800 pixels with a window manager; sets DISPLAY.
+# start_display SERVER...: a display by that X server, with a window manager; sets DISPLAY.
 start_display() {
   exec 3>"$scratch/display"
-  start Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset &>"$scratch/Xvfb.log"
+  start "$@" -displayfd 3 -nolisten tcp -noreset &>"$scratch/display.log"
   until_true "the virtual display" test -s "$scratch/display"
   exec 3>&-
   export DISPLAY=:$(<"$scratch/display")

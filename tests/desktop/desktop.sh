@@ -8,7 +8,7 @@ bin=$1
 . "$desktop/../../packaging/display.sh"
 # Leaks of Qt's and fontconfig's caches are none of the editor's; everything else that a sanitizer finds ends the program.
 export ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1
-start_display
+start_display Xvfb -screen 0 1280x800x24
 
 # A scenario that fails leaves what the screen showed beside the programs' folder.
 keep_screen() {
