@@ -118,6 +118,7 @@ Control& control_named(const std::string& name) {
 forms::PictureBox& surface_named(const std::string& name) {
   Control& control = control_named(name);
   if (control.kind != Kind::picture) throw ScriptError("no surface: " + name);
+  if (!control.window.Loaded()) throw ScriptError(name + " is unloaded");
   return static_cast<forms::PictureBox&>(control);
 }
 

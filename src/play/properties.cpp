@@ -1,5 +1,6 @@
 #include "play/properties.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "play/script.h"
@@ -130,11 +131,25 @@ std::string property_of(Window& window, const std::string& property) {
 std::string property_of(Control& control, const std::string& property, const std::vector<int>& indices) {
   if (!control.window.Loaded()) return "unloaded";
   const bool is_list = control.kind == Kind::list_box || control.kind == Kind::combo_box;
-  if (property == "List" && is_list && indices.size() == 1) return static_cast<ListControl&>(control).List(indices[0]);
+  if (property == "List" && is_list && indices.size() == 1) {
+    const auto& list = static_cast<ListControl&>(control);
+    return indices[0] >= 0 && indices[0] < list.ListCount() ? list.List(indices[0]) : NO_PROPERTY;
+  }
   if (!indices.empty()) return NO_PROPERTY;
   const std::string own = own_property(control, property);
   return own != NO_PROPERTY ? own : read(OF_CONTROL, control, property);
 }
+
+namespace {
+
+// A hand can not go past the ends of a bar or choose a row that is not there.
+int within(int least, int most, const std::string& value) {
+  const int v = whole_number(value);
+  if (v < least || v > most) throw ScriptError("out of range: " + value);
+  return v;
+}
+
+}  // namespace
 
 bool user_gives(Window& window, const std::string& property, const std::string& value) {
   const double v = real_number(value);
@@ -147,7 +162,7 @@ bool user_gives(Window& window, const std::string& property, const std::string& 
   } else if (property == "Height") {
     window.Height(v);
   } else if (property == "WindowState") {
-    window.WindowState(whole_number(value));
+    window.WindowState(within(0, 2, value));
   } else {
     return false;
   }
@@ -159,13 +174,16 @@ bool user_gives(Control& control, const std::string& property, const std::string
   const bool is_text = property == "Text";
   switch (control.kind) {
     case Kind::scroll_bar:
-      if (is_value) static_cast<ScrollBar&>(control).Value(whole_number(value));
+      if (is_value) {
+        auto& bar = static_cast<ScrollBar&>(control);
+        bar.Value(within(std::min(bar.Min(), bar.Max()), std::max(bar.Min(), bar.Max()), value));
+      }
       return is_value;
     case Kind::option_button:
-      if (is_value) static_cast<OptionButton&>(control).Value(whole_number(value));
+      if (is_value) static_cast<OptionButton&>(control).Value(within(0, 1, value));
       return is_value;
     case Kind::check_box:
-      if (is_value) static_cast<CheckBox&>(control).Value(whole_number(value));
+      if (is_value) static_cast<CheckBox&>(control).Value(within(0, 1, value));
       return is_value;
     case Kind::text_box:
       if (is_text) static_cast<TextBox&>(control).Text(value);
@@ -178,7 +196,8 @@ bool user_gives(Control& control, const std::string& property, const std::string
       [[fallthrough]];
     case Kind::list_box:
       if (property != "ListIndex") return false;
-      static_cast<ListControl&>(control).ListIndex(whole_number(value));
+      static_cast<ListControl&>(control).ListIndex(
+          within(0, static_cast<ListControl&>(control).ListCount() - 1, value));
       return true;
     default: return false;
   }

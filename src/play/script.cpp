@@ -40,7 +40,7 @@ class Cutter {
  private:
   Word plain_word() {
     Word word;
-    while (at_ < line_.size() && line_[at_] != ' ' && line_[at_] != '\t') take(word.text);
+    while (at_ < line_.size() && line_.find_first_of(" \t#", at_) != at_) take(word.text);
     return word;
   }
 

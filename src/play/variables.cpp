@@ -1,5 +1,8 @@
 #include "play/variables.h"
 
+#include <cmath>
+#include <limits>
+
 #include "frame/cmd_win.h"
 #include "frame/p_win.h"
 #include "play/script.h"
@@ -11,6 +14,11 @@ using namespace kiso;  // NOLINT(google-build-using-namespace)
 namespace {
 
 using At = std::span<const int>;
+
+Variable vertex_coordinate(At i) {
+  if (i[1] != 1 && i[1] != 2) throw RuntimeError(9);
+  return i[1] == 1 ? &POLY_PTS(i[0]).x : &POLY_PTS(i[0]).y;
+}
 
 #define PLAIN(name)                                \
   {                                                \
@@ -127,7 +135,7 @@ constexpr VariableRow VARIABLES[] = {
     PLAIN(UP_BUSY),
     PLAIN(KEY_MOVED),
     ROW(POLY_PTS),
-    {"POLY_PTS", 2, [](At i) -> Variable { return i[1] == 1 ? &POLY_PTS(i[0]).x : &POLY_PTS(i[0]).y; }},
+    {"POLY_PTS", 2, &vertex_coordinate},
     PLAIN(POLY_N),
     ROW(POLY_COL),
     ROW(BEZ_P0),
@@ -149,6 +157,15 @@ constexpr VariableRow VARIABLES[] = {
 #undef PLAIN
 #undef FIELD
 #undef ROW
+
+template <class Whole>
+void assign_whole(Whole& variable, const std::string& value) {
+  const double v = std::nearbyint(real_number(value));
+  if (!(v >= std::numeric_limits<Whole>::min() && v <= std::numeric_limits<Whole>::max())) {
+    throw ScriptError("out of range: " + value);
+  }
+  variable = static_cast<Whole>(v);
+}
 
 template <class... F>
 struct Cases : F... {
@@ -174,10 +191,8 @@ std::string print(const Variable& variable) {
 void assign(const Variable& variable, const std::string& value) {
   std::visit(Cases{[&](std::string* s) { *s = value; },
                    [](const raster::Point* /*p*/) { throw ScriptError("a point is set by its coordinates"); },
-                   [&](int16_t* n) { *n = to_int16(real_number(value)); },
-                   [&](int32_t* n) { *n = to_int32(real_number(value)); },
-                   [&](uint32_t* n) { *n = static_cast<uint32_t>(real_number(value)); },
-                   [&](double* n) { *n = real_number(value); }},
+                   [&](int16_t* n) { assign_whole(*n, value); }, [&](int32_t* n) { assign_whole(*n, value); },
+                   [&](uint32_t* n) { assign_whole(*n, value); }, [&](double* n) { *n = real_number(value); }},
              variable);
 }
 
