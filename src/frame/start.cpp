@@ -34,7 +34,7 @@ std::string first_picture() {
   splash_win::show_status("Loading..\r" + command_line_picture);
   int result = 0;
   LOAD_PICTURE(command_line_picture, result);
-  if (result < 0) End();  // LOAD_PICTURE has said why
+  if (result != 0) End();  // LOAD_PICTURE has said why
   return command_line_picture;
 }
 
