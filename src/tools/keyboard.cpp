@@ -60,10 +60,7 @@ namespace p_win {
 
 void DRAW_KeyDown(int KeyCode, int Shift) {
   KEY_MOVED = 0;
-  if (PEN_DOWN != 0) {
-    // The keypad does not steer a held stroke; its characters are no colour keys all the same.
-    return;
-  }
+  if (PEN_DOWN != 0) return;  // the keypad does not steer a stroke that it holds
   const int step = Shift == 1 ? 16 : 1;
   switch (KeyCode) {
     case DOWN: scroll(Y_SC, step); return;
