@@ -91,6 +91,60 @@ TEST(View, ACommitOfARectangleAtX2ReadsWholeBlocks) {
   EXPECT_PIC({"......", ".###..", ".###..", "......"});
 }
 
+// A rectangle that cuts blocks: its corners stay fractions of picture pixels, and the sums with the origin are rounded,
+// ties to even.
+TEST(View, ACommitOfACutRectangleRoundsTheSums) {
+  for (const int origin : {0, 1}) {
+    start();
+    view(32, 32);
+    show(blank(20, 20));
+    zoom(4, origin, origin);
+    forms::enter([] {
+      const struct {
+        int column;
+        char letter;
+      } columns[] = {{7, '#'}, {11, 'r'}, {15, 'b'}};  // 5 and half a block, then a block each
+      for (const auto& [column, letter] : columns) {
+        for (int y = 6; y <= 9; ++y) SetPixelV(DRAW, column, y, colour_of(letter));
+      }
+      double x1 = 5, y1 = 6, x2 = 10, y2 = 9;
+      VIEW_COMMIT_RECT(x1, y1, x2, y2);
+    });
+    // Columns from round(1.25 + origin) through round(2.75 + origin), one row at round(1.5 + origin), which is 2 twice.
+    Picture wanted = blank(20, 20);
+    wanted[2].replace(static_cast<size_t>(1 + origin), 3, "#rb");
+    EXPECT_PIC(wanted);
+  }
+}
+
+TEST(View, ACommitOutsideTheViewChangesNothing) {
+  stage::stage(blank(6, 3));
+  forms::enter([] {
+    double x1 = 40, y1 = 40, x2 = 50, y2 = 50;
+    VIEW_COMMIT_RECT(x1, y1, x2, y2);
+  });
+  EXPECT_PIC(blank(6, 3));
+}
+
+TEST(View, LabelsRestWhileTheStatusLineIsOff) {
+  start();
+  view(100, 100);
+  show(blank(200, 200));
+  forms::enter([] { STATUS_ON = 1; });
+  hover(5, 6);
+  forms::enter([] { INF_SUB.Caption("?"); });
+  select_tool(1);
+  forms::enter([] { STATUS_ON = 0; });
+  press(9, 9);
+  press(9, 9, 2);
+  release(9, 9);
+  select_tool(2);
+  EXPECT_EQ(INF_POSX.Caption(), "X= 5");
+  EXPECT_EQ(INF_POSY.Caption(), "Y= 6");
+  EXPECT_EQ(INF_SUB.Caption(), "?");
+  EXPECT_EQ(INF_CMD.Caption(), "Pset");
+}
+
 TEST(View, ReadingBackByRowsIsReadingBackByColumns) {
   std::mt19937 random(7);
   for (const int rate : {2, 4, 8, 16}) {
