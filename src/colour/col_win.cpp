@@ -37,7 +37,7 @@ void colour_box_click(int16_t target) {
   } else if (CUR_TOOL == 1000) {
     CUR_TOOL = PREV_TOOL;
   } else {
-    PREV_TOOL = CUR_TOOL;
+    if (PREV_TOOL != 1000) PREV_TOOL = CUR_TOOL;
     CUR_TOOL = 1000;
   }
   TOOL_CHANGED();

@@ -198,4 +198,10 @@ void PARAM_WIN_SHOW_AGAIN() {
   }
 }
 
+void PARAM_WIN_UNLOAD() {
+  for (const WindowRow& form : WINDOWS) {
+    if (*form.on == 1) form.window->Unload();
+  }
+}
+
 }  // namespace kiso

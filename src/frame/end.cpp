@@ -39,6 +39,7 @@ void shut_down() {
   WRITE_CDI();
   COL_WIN.Unload();
   CMD_WIN.Unload();
+  PARAM_WIN_UNLOAD();
 }
 
 }  // namespace

@@ -50,6 +50,7 @@ void PARAM_WIN_SHOW(int tool);  // the parameter window of that tool, if it has 
 void PARAM_WIN_CLOSE();         // unloads those that do not belong to CUR_TOOL
 void PARAM_WIN_HIDE();          // the open ones, while the program asks whether to end
 void PARAM_WIN_SHOW_AGAIN();
+void PARAM_WIN_UNLOAD();
 // A packed pixel as its components.
 inline void unpack_colour(Colour pixel, int32_t& r, int32_t& g, int32_t& b) {
   r = static_cast<int32_t>(pixel & 0xFF);
