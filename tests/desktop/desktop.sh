@@ -113,6 +113,32 @@ stroke() {
   xdotool mouseup 1
 }
 
+# drag X1 Y1 X2 Y2 [X Y]: a shape dragged with the left button from one point to the other. The rubber figure is waited
+# for at X, Y, at the second point if not told: a move that comes before the press has reached the editor is lost, so
+# the pointer goes there again until it shows.
+drag() {
+  local before
+  before=$(dot_at "${5:-$3}" "${6:-$4}")
+  to "$1" "$2"
+  xdotool mousedown 1
+  until_true "the rubber figure" rubber_shows "$3" "$4" "${5:-$3}" "${6:-$4}" "$before"
+  xdotool mouseup 1
+}
+
+# rubber_shows X2 Y2 X Y BEFORE
+rubber_shows() {
+  [ "$5" != "$(dot_at "$3" "$4")" ] && return
+  to $(($1 + 1)) "$2" "$1" "$2"
+  return 1
+}
+
+# click_at X Y [XDOTOOL_ARGUMENT...]
+click_at() {
+  to "$1" "$2"
+  xdotool click "${@:3}" 1
+}
+DOUBLE='--repeat 2 --delay 20'
+
 # dot_at X Y: the colour on the screen
 dot_at() {
   import -silent -window root -crop "1x1+$((left + $1 * scale))+$((top + $2 * scale))" txt:- | tail -n 1
