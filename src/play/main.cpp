@@ -1,4 +1,5 @@
 // kiso-play: the editor driven by a script.
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -93,6 +94,7 @@ int run(int argc, char** argv) {
 }  // namespace play
 
 int main(int argc, char** argv) {
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed save, not the end
   setenv("QT_LOGGING_RULES", "*.debug=false;*.warning=false", 0);  // standard error is for expectations
   play::PlayDesktop desktop(argc, argv);
   forms::use_desktop(&desktop);

@@ -42,7 +42,11 @@ void inside(const Args& args) {
 }
 
 void close(const Args& /*args*/) {
-  enter([] { P_WIN.Unload(); });
+  if (reachable(P_WIN)) {
+    enter([] { P_WIN.Unload(); });
+  } else {
+    player.say("ignored P_WIN");
+  }
 }
 
 void end(const Args& /*args*/) { player.stopped = true; }
