@@ -50,7 +50,12 @@ void rewrite_keyed_file(const std::string& from, const std::string& target, cons
   text::Close(1);
   if (text::Dir(target).empty()) throw RuntimeError(53);
   text::Close(2);
-  text::Replace(temporary, target);
+  try {
+    text::Replace(temporary, target);
+  } catch (const RuntimeError&) {
+    text::Kill(temporary);
+    throw;
+  }
 }
 
 }  // namespace kiso

@@ -214,6 +214,15 @@ TEST_F(Dictionaries, AReadOnlyDirectoryStaysAsItIs) {
   EXPECT_EQ(harmless_error_of(WRITE_CDI), 70);
 }
 
+TEST_F(Dictionaries, WhatMayNotBeReadStaysAsItIs) {
+  put("DEFAULT.CDI", lines({"CNAM , n"}));
+  put("KISO.CDI", lines({"CNAM , mine"}));
+  EXPECT_EQ(error_without_access("KISO.CDI", READ_CDI), 52);  // the template can not take its place either
+  EXPECT_EQ(error_without_access("KISO.CDI", WRITE_CDI), 70);
+  EXPECT_EQ(error_without_access("", READ_CDI), 52);
+  EXPECT_EQ(error_without_access("", WRITE_CDI), 70);
+}
+
 TEST_F(Dictionaries, AnOldTemporaryIsOverwrittenAndGone) {
   put("KISOCDI.TMP", "left behind by a crash");
   EXPECT_EQ(rewritten({"CNAM , n"}), lines({"CNAM ,  "}));

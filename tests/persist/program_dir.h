@@ -17,6 +17,17 @@
 
 namespace kiso {
 
+// Number of the run-time error that f ends by, 0 if by none.
+template <class F>
+int error_of(F f) {
+  try {
+    f();
+  } catch (const RuntimeError& e) {
+    return e.number;
+  }
+  return 0;
+}
+
 struct ProgramDir : testing::Test {
   using Files = std::map<std::string, std::string>;
 
@@ -30,7 +41,7 @@ struct ProgramDir : testing::Test {
     }
   }
   ~ProgramDir() override {
-    if (getuid() == 0 && seteuid(0) != 0) abort();
+    be_oneself();
     std::filesystem::permissions(APP_PATH, std::filesystem::perms::owner_all);
     std::filesystem::remove_all(APP_PATH);
   }
@@ -50,33 +61,43 @@ struct ProgramDir : testing::Test {
     return bytes_of(std::filesystem::read_symlink("/proc/self/exe").parent_path() / name);
   }
 
-  // Nothing in the directory can be created, replaced or removed any more; the superuser becomes somebody for it.
+  // Nothing in the directory can be created, replaced or removed any more.
   static void protect_directory() {
     std::filesystem::permissions(APP_PATH, std::filesystem::perms{0555});
+    be_somebody();
+  }
+
+  // Number of the error that f ends by while the file of that name, or for "" the directory, may be neither read nor
+  // written. Afterwards every file is as it was.
+  static int error_without_access(const std::string& name, void (*f)()) {
+    const Files before = all_files();
+    std::filesystem::permissions(APP_PATH, std::filesystem::perms::all);
+    std::filesystem::permissions(APP_PATH + "/" + name, std::filesystem::perms::none);
+    be_somebody();
+    const int error = error_of(f);
+    be_oneself();
+    std::filesystem::permissions(APP_PATH + "/" + name, std::filesystem::perms::all);
+    EXPECT_EQ(all_files(), before);
+    return error;
+  }
+
+ private:
+  // For the superuser permissions do not count.
+  static void be_somebody() {
     if (geteuid() == 0) {
       ASSERT_EQ(seteuid(65534), 0);
     }
   }
-
- private:
+  static void be_oneself() {
+    if (getuid() == 0 && seteuid(0) != 0) abort();
+  }
   static std::string bytes_of(const std::filesystem::path& path) {
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
   }
 };
 
-// Number of the run-time error that f ends by, 0 if by none.
-template <class F>
-int error_of(F f) {
-  try {
-    f();
-  } catch (const RuntimeError& e) {
-    return e.number;
-  }
-  return 0;
-}
-
-// The same, and every file of the program directory is as it was.
+// Number of the run-time error that f ends by; every file of the program directory is as it was.
 template <class F>
 int harmless_error_of(F f) {
   const ProgramDir::Files before = ProgramDir::all_files();

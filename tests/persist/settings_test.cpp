@@ -385,6 +385,16 @@ TEST_F(Settings, AReadOnlyDirectoryStaysAsItIs) {
   EXPECT_EQ(harmless_error_of(READ_CNF), 70);
 }
 
+TEST_F(Settings, WhatMayNotBeReadStaysAsItIs) {
+  put("DEFAULT.CNF", lines({"FUZH , 1"}));
+  put("KISO.CNF", lines({"FUZH , 5"}));
+  EXPECT_EQ(error_without_access("KISO.CNF", READ_CNF), 70);
+  EXPECT_EQ(error_without_access("KISO.CNF", WRITE_CNF), 70);
+  EXPECT_EQ(error_without_access("DEFAULT.CNF", WRITE_CNF), 70);
+  EXPECT_EQ(error_without_access("", READ_CNF), 70);
+  EXPECT_EQ(error_without_access("", WRITE_CNF), 70);
+}
+
 TEST_F(Settings, SettingsInAReadOnlyDirectoryStayAsTheyAre) {
   put("DEFAULT.CNF", lines({"FUZH , 1"}));
   put("KISO.CNF", lines({"FUZH , 5"}));
