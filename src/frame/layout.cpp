@@ -70,9 +70,9 @@ void show_size(int w, int h) {
   show_info(text);
 }
 
-void show_points_left() {
+void show_points_left(int placed) {
   char text[32];
-  std::snprintf(text, sizeof text, "あと %d点", 256 - POLY_N);
+  std::snprintf(text, sizeof text, "あと %d点", 256 - placed);
   show_info(text);
 }
 

@@ -81,8 +81,8 @@ void VIEW_SCROLL_SHOW();  // VIEW_REDRAW and the position labels
 void show_position(double X, double Y);
 // The free line of the status line; nothing while that is off.
 void show_info(std::string_view text);
-void show_size(int w, int h);  // "Size X= 12 Y= 3"
-void show_points_left();       // of the 256 that a polygon may have
+void show_size(int w, int h);       // "Size X= 12 Y= 3"
+void show_points_left(int placed);  // of the 256 that a polygon may have
 // Picture pixel of a DRAW pixel, relative to the view: rounded at rate 1, truncated above it.
 int view_pixel(double v);
 

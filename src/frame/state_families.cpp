@@ -41,6 +41,7 @@ void fall_back(FallCause cause) {
     CUR_TOOL = family.states.front();
     if ((family.drops_points & cause) != 0) POLY_N = 0;
     if (family.hides_work) WORK.Visible(false);
+    p_win::show_info(" ");
     return;
   }
 }

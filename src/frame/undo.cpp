@@ -10,6 +10,7 @@ void DROP_STROKE() {
     DRAW.AutoRedraw(true);
     PREVIEW_ON = 0;
   }
+  p_win::show_info(" ");
   VIEW_REDRAW();
 }
 

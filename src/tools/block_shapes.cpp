@@ -1,5 +1,6 @@
 // The shapes at expansion. They are drawn on WORK, which holds the view at picture scale, and each changed rectangle
 // goes through M_REDRAW to DRAW: so a shape consists of whole blocks. Points are picture pixels relative to the view.
+#include <cmath>
 #include <cstdlib>
 
 #include "frame/p_win.h"
@@ -12,6 +13,7 @@ namespace kiso {
 namespace {
 
 constexpr int COPY = 13, XOR = 7;
+constexpr int SOLID = 0, CLEAR = 1, HATCHED = 7;  // fill styles
 
 struct Box {
   int x1, y1, x2, y2;  // both corners included
@@ -22,7 +24,6 @@ Box around(int x1, int y1, int x2, int y2) {
 Box around(const Box& a, const Box& b) {
   return {std::min(a.x1, b.x1), std::min(a.y1, b.y1), std::max(a.x2, b.x2), std::max(a.y2, b.y2)};
 }
-Box rubber_bounds() { return around(PT_START(1), PT_START(2), PT_LAST(1), PT_LAST(2)); }
 Box whole_view() { return {0, 0, VIEW_PIX(1), VIEW_PIX(2)}; }
 void to_view(const Box& b) { WORK_TO_VIEW(b.x1, b.y1, b.x2, b.y2); }
 
@@ -50,7 +51,7 @@ void prepare(float X, float Y) {
   start_at(X, Y);
   WORK.DrawWidth(PEN_SIZE);
   WORK.DrawStyle(0);
-  WORK.FillStyle(1);
+  WORK.FillStyle(CLEAR);
   WORK.DrawMode(XOR);
 }
 
@@ -61,9 +62,18 @@ void hand_back() {
   BitBlt(DRAW, 0, 0, VIEW_DOT(1), VIEW_DOT(2), M_REDRAW, 0, 0);
 }
 
-// --- figures between PT_START and PT_LAST
+// --- figures between PT_START and PT_LAST. What they change goes to the view along their outline: a box round a long
+// line would be most of the view.
 
 void box_figure(Colour colour) { Line(WORK, PT_START(1), PT_START(2), PT_LAST(1), PT_LAST(2), colour, LineForm::box); }
+
+void show_box() {
+  const Box b = around(PT_START(1), PT_START(2), PT_LAST(1), PT_LAST(2));
+  to_view({b.x1, b.y1, b.x2, b.y1});
+  to_view({b.x1, b.y2, b.x2, b.y2});
+  to_view({b.x1, b.y1, b.x1, b.y2});
+  to_view({b.x2, b.y1, b.x2, b.y2});
+}
 
 // A line leaves out its last point: one pixel wide, it gets that point as a dot.
 void line_figure(Colour colour) {
@@ -72,40 +82,76 @@ void line_figure(Colour colour) {
 }
 
 // The rubber line of a running chain: dots at both ends.
-void chain_figure() {
-  line_figure(COL_XOR);
-  if (WORK.DrawWidth() == 1) PSet(WORK, PT_START(1), PT_START(2), COL_XOR);
+void chain_figure(Colour colour) {
+  line_figure(colour);
+  if (WORK.DrawWidth() == 1) PSet(WORK, PT_START(1), PT_START(2), colour);
 }
 
-using Figure = void (*)(Colour);
+void show_line() {
+  const int dx = PT_LAST(1) - PT_START(1);
+  const int dy = PT_LAST(2) - PT_START(2);
+  const int pieces = std::max(std::abs(dx), std::abs(dy)) / (16 + WORK.DrawWidth()) + 1;
+  for (int i = 0; i < pieces; ++i) {
+    const Box b = around(PT_START(1) + dx * i / pieces, PT_START(2) + dy * i / pieces,
+                         PT_START(1) + dx * (i + 1) / pieces, PT_START(2) + dy * (i + 1) / pieces);
+    to_view({b.x1 - 1, b.y1 - 1, b.x2 + 1, b.y2 + 1});  // 1: the cuts are rounded
+  }
+}
 
-void press_with(Figure figure, float X, float Y) {
+struct Figure {
+  void (*draw)(Colour);
+  void (*show)();
+};
+constexpr Figure BOX{box_figure, show_box}, LINE{line_figure, show_line}, CHAIN_LINE{chain_figure, show_line};
+
+void put(const Figure& figure, Colour colour) {
+  figure.draw(colour);
+  figure.show();
+}
+
+void press_with(const Figure& figure, float X, float Y) {
   prepare(X, Y);
-  figure(COL_XOR);
-  to_view(rubber_bounds());
+  put(figure, COL_XOR);
 }
 
-void drag_with(Figure figure, float X, float Y) {
-  const Box before = rubber_bounds();
-  figure(COL_XOR);
+void drag_with(const Figure& figure, float X, float Y) {
+  put(figure, COL_XOR);
   follow(X, Y);
-  figure(COL_XOR);
-  to_view(around(before, rubber_bounds()));
+  put(figure, COL_XOR);
 }
 
-void finish_with(Figure figure, float X, float Y) {
-  const Box before = rubber_bounds();
-  figure(COL_XOR);
+void finish_with(const Figure& figure, float X, float Y) {
+  put(figure, COL_XOR);
   WORK.DrawMode(COPY);
   follow(X, Y);
-  figure(COL_A);
-  to_view(around(before, rubber_bounds()));
+  put(figure, COL_A);
+  hand_back();
 }
 
 // --- ellipses: PT_LAST 1 to 4 holds the rectangle, right and bottom left out
 
 void ellipse() { Ellipse(WORK, PT_LAST(1), PT_LAST(2), PT_LAST(3), PT_LAST(4)); }
 Box ellipse_bounds() { return {PT_LAST(1), PT_LAST(2), PT_LAST(3), PT_LAST(4)}; }
+
+// The outline of an ellipse in those bounds: by bands of rows, in each the two arcs.
+void outline_to_view(const Box& b) {
+  constexpr int BAND = 8;
+  if (std::min(b.x2 - b.x1, b.y2 - b.y1) <= 2 * BAND) return to_view(b);
+  const double cx = (b.x1 + b.x2 - 1) / 2.0, cy = (b.y1 + b.y2 - 1) / 2.0;
+  const double rx = cx - b.x1, ry = cy - b.y1;
+  const auto half_width = [&](double from_middle) {
+    const double part = std::clamp(from_middle / ry, 0.0, 1.0);
+    return rx * std::sqrt(1 - part * part);
+  };
+  for (int y = b.y1; y < b.y2; y += BAND) {
+    const int last = std::min(y + BAND, b.y2) - 1;
+    // A pixel's row may be next to that in which the true outline passes.
+    const double outer = half_width(std::max({y - cy, cy - last, 0.0}) - 1);
+    const double inner = half_width(std::max(std::abs(y - cy), std::abs(last - cy)) + 1);
+    to_view({truncate(cx - outer) - 1, y, truncate(cx - inner) + 1, last});
+    to_view({truncate(cx + inner) - 1, y, truncate(cx + outer) + 1, last});
+  }
+}
 
 void centre_cross() {
   constexpr int FAR = 2000;
@@ -120,7 +166,7 @@ void rubber_ellipse_pen(bool filled) {
   WORK.ForeColor(COL_XOR);
   WORK.FillColor(COL_XOR);
   WORK.DrawWidth(filled ? 1 : PEN_SIZE);
-  WORK.FillStyle(filled ? 7 : 1);
+  WORK.FillStyle(filled ? HATCHED : CLEAR);
 }
 
 void start_ellipse(bool filled, float X, float Y) {
@@ -132,6 +178,19 @@ void start_ellipse(bool filled, float X, float Y) {
   to_view(whole_view());
 }
 
+void rubber_ellipse_to(float X, float Y) {
+  const int x = PT_START(1);
+  const int y = PT_START(2);
+  const int rx = std::abs(picture_pixel(X) - x);
+  const int ry = std::abs(picture_pixel(Y) - y);
+  ellipse();
+  PT_LAST(1) = x - rx;
+  PT_LAST(2) = y - ry;
+  PT_LAST(3) = x + rx + 1;
+  PT_LAST(4) = y + ry + 1;
+  ellipse();
+}
+
 void finish_ellipse(bool filled) {
   ellipse();
   centre_cross();
@@ -139,11 +198,23 @@ void finish_ellipse(bool filled) {
   WORK.DrawWidth(PEN_SIZE);
   WORK.ForeColor(COL_A);
   WORK.FillColor(COL_A);
-  WORK.FillStyle(filled ? 0 : 1);
+  WORK.FillStyle(filled ? SOLID : CLEAR);
   ellipse();
-  WORK.FillStyle(1);
+  WORK.FillStyle(CLEAR);
   to_view(whole_view());
   hand_back();
+}
+
+// --- chains
+
+// The right button has thrown away what the chain has painted so far: it goes on from its last vertex.
+void pick_up_chain() {
+  const auto vertex = PT_START;
+  prepare(0, 0);
+  PT_START = vertex;
+  PT_LAST(1) = vertex(1);
+  PT_LAST(2) = vertex(2);
+  chain_figure(COL_XOR);
 }
 
 // --- the rubber box that snaps to blocks, in DRAW pixels
@@ -175,6 +246,7 @@ void WORK_TO_VIEW(int x1, int y1, int x2, int y2) {
   y1 -= m;
   x2 = std::min(x2 + m, to_int32(WORK.ScaleWidth()));
   y2 = std::min(y2 + m, to_int32(WORK.ScaleHeight()));
+  if (x1 >= x2 || y1 >= y2) return;  // past the view; a size below 0 would mirror
   const int R = EXP_RATE;
   StretchBlt(M_REDRAW, R * x1, R * y1, R * (x2 - x1), R * (y2 - y1), WORK, x1, y1, x2 - x1, y2 - y1);
   BitBlt(DRAW, R * x1, R * y1, R * (x2 - x1), R * (y2 - y1), M_REDRAW, R * x1, R * y1);
@@ -216,19 +288,13 @@ void block_boxfill_release(float X, float Y) {
 
 // --- Box, Line
 
-void block_box_press(float X, float Y) { press_with(box_figure, X, Y); }
-void block_box_drag(float X, float Y) { drag_with(box_figure, X, Y); }
-void block_box_release(float X, float Y) {
-  finish_with(box_figure, X, Y);
-  hand_back();
-}
+void block_box_press(float X, float Y) { press_with(BOX, X, Y); }
+void block_box_drag(float X, float Y) { drag_with(BOX, X, Y); }
+void block_box_release(float X, float Y) { finish_with(BOX, X, Y); }
 
-void block_line_press(float X, float Y) { press_with(line_figure, X, Y); }
-void block_line_drag(float X, float Y) { drag_with(line_figure, X, Y); }
-void block_line_release(float X, float Y) {
-  finish_with(line_figure, X, Y);
-  hand_back();
-}
+void block_line_press(float X, float Y) { press_with(LINE, X, Y); }
+void block_line_drag(float X, float Y) { drag_with(LINE, X, Y); }
+void block_line_release(float X, float Y) { finish_with(LINE, X, Y); }
 
 // --- Circle, Circlefill
 
@@ -237,17 +303,13 @@ void block_circlefill_press(float X, float Y) { start_ellipse(true, X, Y); }
 
 void block_circle_drag(float X, float Y) {
   const Box before = ellipse_bounds();
-  ellipse();
-  const int x = PT_START(1);
-  const int y = PT_START(2);
-  const int rx = std::abs(picture_pixel(X) - x);
-  const int ry = std::abs(picture_pixel(Y) - y);
-  PT_LAST(1) = x - rx;
-  PT_LAST(2) = y - ry;
-  PT_LAST(3) = x + rx + 1;
-  PT_LAST(4) = y + ry + 1;
-  ellipse();
-  to_view(around(before, ellipse_bounds()));
+  rubber_ellipse_to(X, Y);
+  if (WORK.FillStyle() == HATCHED) {
+    to_view(around(before, ellipse_bounds()));
+  } else {
+    outline_to_view(before);
+    outline_to_view(ellipse_bounds());
+  }
 }
 
 void block_circle_release(float /*X*/, float /*Y*/) { finish_ellipse(false); }
@@ -255,34 +317,36 @@ void block_circlefill_release(float /*X*/, float /*Y*/) { finish_ellipse(true); 
 
 // --- Line(Type2): PEN_DOWN stays 1 from the first press to the closing click
 
+// The rubber line of no length is the dot of a wide pen.
 void block_chain_release(float X, float Y) {
-  block_line_release(X, Y);
-  prepare(X, Y);  // chain_figure of no length leaves no trace
+  finish_with(LINE, X, Y);
+  press_with(CHAIN_LINE, X, Y);
   CUR_TOOL = 12029;
 }
 
 void block_chain_hover(float X, float Y) {
-  drag_with([](Colour) { chain_figure(); }, X, Y);
+  if (PEN_DOWN == 1) drag_with(CHAIN_LINE, X, Y);
 }
 
 // The segment is painted; a click where it began closes the chain.
 void block_chain_next(float X, float Y) {
-  const Box before = rubber_bounds();
-  chain_figure();
+  if (DRAW.AutoRedraw()) pick_up_chain();
+  put(CHAIN_LINE, COL_XOR);
   follow(X, Y);
   WORK.DrawMode(COPY);
-  line_figure(COL_A);
+  put(LINE, COL_A);
   WORK.DrawMode(XOR);
-  const bool closes = PT_LAST(1) == PT_START(1) && PT_LAST(2) == PT_START(2);
-  const Box painted = rubber_bounds();
-  if (!closes) {
-    start_at(X, Y);
-    line_figure(COL_XOR);  // the rubber line that the release takes away
+  if (PT_LAST(1) == PT_START(1) && PT_LAST(2) == PT_START(2)) {
+    CUR_TOOL = 13029;
+    return;
   }
-  to_view(around(before, painted));
-  CUR_TOOL = closes ? 13029 : 11029;
+  start_at(X, Y);
+  line_figure(COL_XOR);  // the rubber line that the release takes away
+  CUR_TOOL = 11029;
 }
 
-void block_chain_close(float /*X*/, float /*Y*/) { hand_back(); }
+void block_chain_close(float /*X*/, float /*Y*/) {
+  if (!DRAW.AutoRedraw()) hand_back();
+}
 
 }  // namespace kiso

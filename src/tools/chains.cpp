@@ -19,32 +19,61 @@ void follow(Point p) {
   PT_LAST(1) = p.x;
   PT_LAST(2) = p.y;
 }
+Point start() { return {PT_START(1), PT_START(2)}; }
 Point followed() { return {PT_LAST(1), PT_LAST(2)}; }
 
+// The rubber line from the last vertex as it stands on DRAW. By the time that a press takes it away, PT_LAST and the
+// pen have moved on.
+Point rubber_end;
+int rubber_width = 1;
+
+// From here on a line of no length counts as drawn.
+void begin_rubber() {
+  RUBBER_ON = 1;
+  rubber_end = last_vertex();
+}
+
+void rubber_to(Point p) {
+  if (RUBBER_ON == 0) begin_rubber();  // a repaint has wiped it
+  DRAW.DrawMode(XOR);
+  line(last_vertex(), rubber_end, COL_XOR);
+  line(last_vertex(), p, COL_XOR);
+  rubber_end = p;
+}
+
+void hover_to(Point p) {
+  rubber_width = DRAW.DrawWidth();
+  rubber_to(p);
+  follow(p);
+}
+
+void take_rubber_away() {
+  const int pen = DRAW.DrawWidth();
+  DRAW.DrawWidth(rubber_width);
+  rubber_to(last_vertex());
+  DRAW.DrawWidth(pen);
+}
+
 void begin_chain(float X, float Y) {
-  POLY_PTS(0) = {PT_START(1), PT_START(2)};
+  POLY_PTS(0) = start();
   POLY_PTS(1) = at(X, Y);
   POLY_N = 2;
+  begin_rubber();
 }
 
 void append(Point p) {
   POLY_PTS(POLY_N) = p;
   ++POLY_N;
   follow(p);
-  p_win::show_points_left();
+  begin_rubber();
+  p_win::show_points_left(POLY_N);
 }
 
 // A chain that reaches the limit is dropped, not closed.
 void drop_chain() {
   POLY_N = 0;
+  p_win::show_info(" ");
   VIEW_REDRAW();
-}
-
-void rubber_to(Point p) {
-  DRAW.DrawMode(XOR);
-  line(last_vertex(), followed(), COL_XOR);
-  follow(p);
-  line(last_vertex(), followed(), COL_XOR);
 }
 
 // What ends a chain by a double click; the release that follows finds no stroke.
@@ -84,22 +113,23 @@ void paint_segment(Point to) {
 void polygon_press(float /*X*/, float /*Y*/) {
   DRAW.DrawMode(XOR);
   Line(DRAW, PT_START(1), PT_START(2), PT_START(1), PT_START(2), COL_XOR);
-  POLY_N = 1;
-  p_win::show_points_left();
+  p_win::show_points_left(1);
 }
 
 void polygon_release(float X, float Y) {
+  line_drag(X, Y);
   begin_chain(X, Y);
   CUR_TOOL = 5027;
 }
 
 void polygon_hover(float X, float Y) {
   DRAW.DrawWidth(1);
-  rubber_to(at(X, Y));
+  hover_to(at(X, Y));
 }
 
 void polygon_next(float X, float Y) {
   const Point p = at(X, Y);
+  if (!same(p, rubber_end)) take_rubber_away();  // no move has led up to this press
   if (same(p, last_vertex())) {
     fill_polygon();
     CUR_TOOL = 7027;
@@ -128,6 +158,7 @@ void chain_press(float /*X*/, float /*Y*/) {
 }
 
 void chain_release(float X, float Y) {
+  line(followed(), start(), COL_XOR);
   begin_chain(X, Y);
   CUR_TOOL = 5029;
   DRAW.DrawMode(COPY);
@@ -137,10 +168,11 @@ void chain_release(float X, float Y) {
   POLY_COL(0) = static_cast<int32_t>(COL_A);
 }
 
-void chain_hover(float X, float Y) { rubber_to(at(X, Y)); }
+void chain_hover(float X, float Y) { hover_to(at(X, Y)); }
 
 void chain_next(float X, float Y) {
   const Point p = at(X, Y);
+  take_rubber_away();  // the segment does not cover it where the pen has become smaller since
   if (same(p, last_vertex())) {
     paint_segment(p);
     POLY_N = 0;
@@ -171,9 +203,6 @@ void chain_double_click(float X, float Y) {
 
 namespace {
 
-// The pen that the rubber figure was drawn with; the pen size may have changed since.
-int rubber_width = 1;
-
 void curve_to(Point control) {
   POLY_PTS(0) = POLY_PTS(1) = {BEZ_P0(1), BEZ_P0(2)};
   POLY_PTS(2) = control;
@@ -198,10 +227,14 @@ void hide_curve() {
   RUBBER_ON = 0;
 }
 
-void rubber_from_start() {
+void end_rubber_to(Point p) {
+  if (RUBBER_ON == 0) follow(start());  // a repaint has wiped it
   DRAW.DrawMode(XOR);
   DRAW.DrawWidth(rubber_width);
-  Line(DRAW, PT_LAST(1), PT_LAST(2), PT_START(1), PT_START(2), COL_XOR);
+  line(followed(), start(), COL_XOR);
+  follow(p);
+  line(followed(), start(), COL_XOR);
+  RUBBER_ON = 1;
 }
 
 void end_point(Point p) {
@@ -212,8 +245,6 @@ void end_point(Point p) {
   CUR_TOOL = 1031;
 }
 
-bool is_start(Point p) { return p.x == PT_START(1) && p.y == PT_START(2); }
-
 }  // namespace
 
 void bezier_release(float X, float Y) {
@@ -221,25 +252,20 @@ void bezier_release(float X, float Y) {
   rubber_width = DRAW.DrawWidth();
   BEZ_P0(1) = PT_START(1);
   BEZ_P0(2) = PT_START(2);
-  if (!is_start(at(X, Y))) {
+  if (!same(at(X, Y), start())) {
     end_point(at(X, Y));
     return;
   }
-  follow(at(X, Y));  // no line stands yet
+  follow(start());  // a line of no length counts as drawn
   RUBBER_ON = 1;
   CUR_TOOL = 5031;
 }
 
-void bezier_end_hover(float X, float Y) {
-  if (RUBBER_ON == 1) rubber_from_start();
-  follow(at(X, Y));
-  rubber_from_start();
-  RUBBER_ON = 1;
-}
+void bezier_end_hover(float X, float Y) { end_rubber_to(at(X, Y)); }
 
 void bezier_end_press(float X, float Y) {
-  if (is_start(at(X, Y))) return;
-  if (RUBBER_ON == 1) rubber_from_start();
+  if (same(at(X, Y), start())) return;
+  end_rubber_to(start());
   rubber_width = PEN_SIZE;
   end_point(at(X, Y));
 }

@@ -7,11 +7,13 @@ namespace kiso {
 
 namespace {
 
-Colour fill_pen(int x, int y) {
+// Readies the brush; answers the colour under the pointer.
+Colour ready_to_fill(int x, int y) {
   DRAW.FillStyle(0);
   DRAW.FillColor(COL_A);
+  const Colour clicked = GetPixel(DRAW, x, y);
   DRAW.AutoRedraw(true);
-  return GetPixel(DRAW, x, y);
+  return clicked;
 }
 
 }  // namespace
@@ -19,13 +21,14 @@ Colour fill_pen(int x, int y) {
 void paint_a(float X, float Y) {
   const int x = to_int32(X);
   const int y = to_int32(Y);
-  ExtFloodFill(DRAW, x, y, fill_pen(x, y));
+  const Colour clicked = ready_to_fill(x, y);
+  ExtFloodFill(DRAW, x, y, clicked);
 }
 
 void paint_b(float X, float Y) {
   const int x = to_int32(X);
   const int y = to_int32(Y);
-  if (fill_pen(x, y) != COL_B) FloodFill(DRAW, x, y, COL_B);
+  if (ready_to_fill(x, y) != COL_B) FloodFill(DRAW, x, y, COL_B);
 }
 
 }  // namespace kiso

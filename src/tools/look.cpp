@@ -28,7 +28,12 @@ void zoom_press(float X, float Y) {
   TOOL_CHANGED();
 }
 
+// The commit goes by the tool that follows: its box, left from a stroke at another expansion, becomes the whole view.
 void zoom_release(float /*X*/, float /*Y*/) {
+  for (int axis : {1, 2}) {
+    BOX_MIN(axis) = 0;
+    BOX_MAX(axis) = VIEW_DOT(axis) - 1;
+  }
   CUR_TOOL = EXP_TOOL;
   TOOL_CHANGED();
 }

@@ -120,7 +120,8 @@ void area_drag(float X, float Y) {
   rubber_box(LineForm::box_fill);
   follow(X, Y);
   rubber_box(LineForm::box_fill);
-  p_win::show_size(std::abs(PT_LAST(1) - PT_START(1)) + 1, std::abs(PT_LAST(2) - PT_START(2)) + 1);
+  p_win::show_size(to_int32(std::abs(X - static_cast<float>(PT_START(1))) + 1),
+                   to_int32(std::abs(Y - static_cast<float>(PT_START(2))) + 1));
 }
 
 void area_erase() {
