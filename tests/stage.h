@@ -147,10 +147,15 @@ inline void show(const Picture& picture) {
   });
 }
 
+// The free area has room for that picture at x8; by one more pixel, as a view of less than the picture has an even size.
+inline void room_for(const Picture& picture) {
+  view(static_cast<int>(picture[0].size() + 1) * 8, static_cast<int>(picture.size() + 1) * 8);
+}
+
 // The editor started, with that picture in a view that is large enough for it at x8.
 inline void stage(const Picture& picture) {
   start();
-  view(static_cast<int>(picture[0].size()) * 8, static_cast<int>(picture.size()) * 8);
+  room_for(picture);
   show(picture);
 }
 

@@ -16,7 +16,7 @@ inline void stage_with_status(const Picture& picture) {
   forms::enter([] {
     if (STATUS_ON != 1) RB.Click.fire(-1);
   });
-  view(static_cast<int>(picture[0].size()) * 8, static_cast<int>(picture.size()) * 8);
+  room_for(picture);
   show(picture);
 }
 inline Picture plain(int w, int h, char letter = '.') {
@@ -52,5 +52,26 @@ inline raster::Surface view_of_picture() {
   raster::StretchBlt(view, 0, 0, VIEW_DOT(1), VIEW_DOT(2), PIC, VIEW_ORG(1), VIEW_ORG(2), VIEW_PIX(1), VIEW_PIX(2));
   return view;
 }
+
+// --- tools of several clicks
+// Drags the first edge of a tool of several clicks.
+inline void first_edge(int tool, float x1, float y1, float x2, float y2) {
+  select_tool(tool);
+  press(x1, y1);
+  drag(x2, y2);
+  release(x2, y2);
+}
+inline void next_vertex(float x, float y) {
+  hover(x, y);
+  click(x, y);
+}
+// 256 vertices of a zigzag on rows 0 and 1, the last one at x = 255.
+inline void longest_chain(int tool) {
+  first_edge(tool, 0, 0, 1, 1);
+  for (int i = 2; i < 256; ++i) next_vertex(static_cast<float>(i), static_cast<float>(i % 2));
+}
+inline void repaint() {
+  forms::enter([] { VIEW_FIT(); });
+}  // as after a change of the window's size
 
 }  // namespace stage
