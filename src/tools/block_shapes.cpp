@@ -246,7 +246,6 @@ void WORK_TO_VIEW(int x1, int y1, int x2, int y2) {
   y1 -= m;
   x2 = std::min(x2 + m, to_int32(WORK.ScaleWidth()));
   y2 = std::min(y2 + m, to_int32(WORK.ScaleHeight()));
-  if (x1 >= x2 || y1 >= y2) return;  // past the view; a size below 0 would mirror
   const int R = EXP_RATE;
   StretchBlt(M_REDRAW, R * x1, R * y1, R * (x2 - x1), R * (y2 - y1), WORK, x1, y1, x2 - x1, y2 - y1);
   BitBlt(DRAW, R * x1, R * y1, R * (x2 - x1), R * (y2 - y1), M_REDRAW, R * x1, R * y1);

@@ -88,6 +88,18 @@ TEST(BlockChain, FurtherSegmentsMayBeDragged) {
   EXPECT_DRAW(enlarged(TWO_SEGMENTS, RATE));
 }
 
+TEST(BlockChain, RubberLineOfNoLengthIsTheDotOfAWidePen) {
+  stage_yellow();
+  pen(3);
+  first_segment(2, 2, 5, 2);
+  const auto vertex = [] { return letter_of(GetPixel(DRAW, static_cast<int>(at(5)), static_cast<int>(at(2)))); };
+  EXPECT_NE(vertex(), 'r');
+  hover(at(8), at(4));
+  EXPECT_NE(vertex(), 'r');
+  press(at(8), at(4));
+  EXPECT_EQ(vertex(), 'r');
+}
+
 TEST(BlockChain, WideDotOfAVertexLeavesNoTrace) {
   stage_yellow();
   target_colour('y');

@@ -230,13 +230,14 @@ TEST(Polygon, UndoButtonDropsItAndRepaints) {
 }
 
 TEST(Polygon, ScrollDropsIt) {
-  stage::stage(plain(40, 20));
+  stage_with_status(plain(40, 20));
   view(20, 20);
   first_edge(27, 1, 1, 5, 1);
   next_vertex(3, 9);
   forms::enter([] { X_SC.Value(2); });
   EXPECT_EQ(CUR_TOOL, 27);
   EXPECT_EQ(POLY_N, 0);
+  EXPECT_EQ(INF_SUB.Caption(), " ");
   hover(8, 8);
   EXPECT_DRAW(plain(20, 20));
 }

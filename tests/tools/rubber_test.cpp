@@ -121,6 +121,27 @@ TEST_P(Held, DragsRestoreTheView) {
   }
 }
 
+// Flat ellipses have long runs in a row, and pens of 3 and 7 reach just as far as what goes to the view.
+TEST(Rubber, LargeEllipsesGoToTheViewWhole) {
+  stage::start();
+  view(1000, 160);
+  show(plain(520, 90, 'y'));
+  for (unsigned seed = 1; seed <= 40 && !HasFailure(); ++seed) {
+    Dice dice(seed);
+    const int pen_size = seed % 2 == 0 ? 3 : 7;
+    SCOPED_TRACE(told(11004, seed, 2, pen_size));
+    zoom(2);
+    pen(pen_size);
+    select_tool(11004);
+    press_at({VIEW_DOT(1) / 2, VIEW_DOT(2) / 2});
+    for (int i = 0; i < 10; ++i) {
+      drag_to(dice.inside());
+      expect_blocks_of_work();
+    }
+    key(' ');
+  }
+}
+
 // What is committed is the shape alone, whatever way the pointer has taken to it.
 TEST_P(Held, CommitDoesNotDependOnTheWay) {
   start_for_noise();

@@ -267,6 +267,7 @@ TEST(Circlefill, PaintsItsRimAsWideAsThePen) {
 TEST(Circlefill, NextShapeIsNotFilled) {
   stage::stage(plain(7, 7));
   stroke(7, 3, 3, 3, 3);
+  EXPECT_EQ(DRAW.FillStyle(), 1);
   stroke(4, 1, 1, 5, 5);
   EXPECT_PIC({".......", ".#####.", ".#...#.", ".#...#.", ".#...#.", ".#####.", "......."});
 }
