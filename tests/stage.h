@@ -147,7 +147,8 @@ inline void show(const Picture& picture) {
   });
 }
 
-// The free area has room for that picture at x8; by one more pixel, as a view of less than the picture has an even size.
+// The free area has room for that picture at x8, and by one pixel more: a view of less than the picture has an even
+// size.
 inline void room_for(const Picture& picture) {
   view(static_cast<int>(picture[0].size() + 1) * 8, static_cast<int>(picture.size() + 1) * 8);
 }
