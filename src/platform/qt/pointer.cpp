@@ -81,7 +81,9 @@ bool PointerTrack::event(forms::Control& control, forms::PointerEvents& events, 
   }
   const bool unknown_button = type != QEvent::MouseMove && button_state(mouse.button()) == 0;
   if (unknown_button || !forms::reachable(control)) return true;
-  const QPointF at = mouse.position() - corner;
+  // The pixel that the pointer stands on: on a display of scale 2 it can stand on half of one, which position() rounds.
+  const QPointF inside = widget.mapFrom(widget.window(), mouse.scenePosition()) - corner;
+  const QPointF at(std::floor(inside.x()), std::floor(inside.y()));
   if (type == QEvent::MouseMove) {
     const int held = button_state(mouse.buttons()) | (keypad.down ? 1 : 0);
     user_event([&] {
