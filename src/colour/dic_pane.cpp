@@ -79,7 +79,9 @@ void design_dictionary() {
   constexpr double WIDTH = MODE_WIDTH / 4;
   for (int i = 0; i < COL_WIN.COLINDEX.count; ++i) {
     Label& cell = COL_WIN.COLINDEX(i);
-    cell.design(MODE_LEFT + (i % 6 - 2) * WIDTH, MODE_TOP + (i / 6 - 4) * HEIGHT, WIDTH, HEIGHT, pane);
+    const int row = i / 6;
+    const int column = i % 6;
+    cell.design(MODE_LEFT + (column - 2) * WIDTH, MODE_TOP + (row - 4) * HEIGHT, WIDTH, HEIGHT, pane);
     cell.transparent = false;
     cell.align = Label::Align::centre;
     cell.Caption(std::string(1, static_cast<char>('A' + i)));

@@ -108,7 +108,7 @@ struct Progress : ColourTest {
 };
 
 TEST_F(Progress, TheBarGrowsAndEmpties) {
-  const int W = to_int32(WAIT_WIN.BAR.ScaleWidth());
+  const double W = WAIT_WIN.BAR.ScaleWidth();
   WAIT_PROGRESS(0, 0);  // the total is not looked at
   EXPECT_EQ(filled(), 0);
   WAIT_PROGRESS(1, 4);
