@@ -73,9 +73,6 @@ extern int32_t AREA_DX, AREA_DY, AREA_W, AREA_H;  // floating area: offset from 
 
 namespace p_win {
 
-// Layout of the window's inside; the same after a resize and after the status line has come or gone.
-void Form_Resize();
-void RB_Click();
 void VIEW_SCROLL_SHOW();  // VIEW_REDRAW and the position labels
 // "X=" and "Y=" show the picture pixel under the DRAW pixel; nothing while the status line is off.
 void show_position(double X, double Y);

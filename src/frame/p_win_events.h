@@ -4,7 +4,7 @@
 namespace kiso::p_win {
 
 void Form_Load();
-void Form_Resize();
+void Form_Resize();  // layout of the window's inside, also after the status line has come or gone
 void Form_QueryUnload(int& Cancel);
 void Form_Unload(int& Cancel);
 void X_SC_Change();
