@@ -29,6 +29,16 @@ void mark_selected_colour() {
   other.FillColor(0x8000000F);
 }
 
+// Another tool ends what a tool of several clicks has begun; what it has put on DRAW is not to reach PIC with the next
+// stroke. A tool that waits for its next click is still the same tool, and an event of the pointer minds its stroke
+// itself.
+void drop_open_chain() {
+  const Commit commit = tool_row(CUR_TOOL).commit;
+  const bool waits_for_click = CUR_TOOL != 1000 && (commit == Commit::open || commit == Commit::none);
+  if (waits_for_click || DOWN_BUSY != 0 || UP_BUSY != 0) return;
+  if (RUBBER_ON == 1 || (PREVIEW_ON == 1 && PEN_DOWN == 1)) DROP_STROKE();
+}
+
 }  // namespace
 
 void SET_CURSOR(const std::string& word) {
@@ -44,6 +54,7 @@ void SET_CURSOR(const std::string& word) {
 const char* TOOL_STATUS(int tool) { return tool_row(tool).inf_cmd; }
 
 void TOOL_CHANGED() {
+  drop_open_chain();
   mark_selected_colour();
   SET_CURSOR(tool_row(CUR_TOOL).cursor);
   WORK.Visible(CUR_TOOL == 20001 || CUR_TOOL == 11101 || CUR_TOOL == 19);
