@@ -63,10 +63,10 @@ extern Array<int32_t, 1, 2> PT_DOT;            // pointer in picture pixels rela
 extern Array<int32_t, 1, 2> BOX_MIN, BOX_MAX;  // rectangle touched by the dot tools
 extern int32_t DOWN_BUSY, MOVE_BUSY, UP_BUSY;  // guards: an event that finds its guard set returns at once
 extern int16_t KEY_MOVED;                      // 1: the last key was a move of the pointer
-extern int16_t RUBBER_ON;              // 1: a rubber figure of a multi-click tool stands on DRAW; VIEW_REDRAW wipes it
-extern Array<Point, 0, 256> POLY_PTS;  // vertices; the first four serve as the points of a curve
-extern int32_t POLY_N;                 // count of vertices
-extern Array<int32_t, 0, 256> POLY_COL;           // colour of each vertex of a chain
+extern int16_t RUBBER_ON;                // 1: a rubber figure of a multi-click tool stands on DRAW; a repaint wipes it
+extern Array<Point, 0, 256> POLY_PTS;    // vertices; the first four serve as the points of a curve
+extern int32_t POLY_N;                   // count of vertices
+extern Array<int32_t, 0, 256> POLY_COL;  // colour of each vertex of a chain
 extern Array<int32_t, 1, 2> BEZ_P0, BEZ_P3;       // ends of the curve
 extern Array<int32_t, 1, 4> RECT_NEW, RECT_OLD;   // snapped rectangle at the press; last rubber rectangle
 extern int32_t AREA_DX, AREA_DY, AREA_W, AREA_H;  // floating area: offset from the pointer, size

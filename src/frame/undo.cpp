@@ -15,6 +15,7 @@ void DROP_STROKE() {
 }
 
 void UNDO_SWAP() {
+  RUBBER_ON = 0;
   if (EXP_RATE == 1) {
     BitBlt(DRAW, 0, 0, VIEW_DOT(1), VIEW_DOT(2), UNDO, 0, 0);
   } else {

@@ -211,6 +211,18 @@ TEST(Bezier, OutlivesAScrollWithoutATrace) {
   EXPECT_PIC(scrolled);
 }
 
+TEST(Bezier, OutlivesAnUndoWithoutATrace) {
+  stage::stage(plain(12, 7));
+  click(11, 6);
+  ends(2, 1, 10, 1);
+  hover(3, 6);
+  forms::enter([] { CMD_WIN.UNDO.Click.fire(-1); });
+  EXPECT_EQ(CUR_TOOL, 1031);
+  EXPECT_DRAW(plain(12, 7));
+  hover(6, 7);
+  EXPECT_DRAW(BENT);
+}
+
 TEST(Bezier, LineToItsEndOutlivesARepaintWithoutATrace) {
   stage::stage(plain(12, 7));
   pen(3);
