@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -30,6 +31,41 @@ class Controls : public Display {
     taken();
   }
 };
+
+// Counts how often a widget is painted.
+class Paints : public QObject {
+ public:
+  explicit Paints(QWidget* of) { of->installEventFilter(this); }
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    count += event->type() == QEvent::Paint;
+    return false;
+  }
+};
+
+TEST_F(Controls, LabelShowsItsNewTextByItself) {
+  Paints paints(widget(P.INF));
+  logic([] { P.INF.Caption("X= 1"); });
+  QElapsedTimer waited;
+  for (waited.start(); paints.count == 0 && waited.elapsed() < 5000;) settle();
+  EXPECT_EQ(paints.count, 1);
+}
+
+TEST_F(Controls, LabelShowsItsNewTextBeforeRefreshReturns) {
+  Paints paints(widget(P.INF));
+  logic([&] {
+    P.INF.Caption("X= 1");
+    P.Refresh();
+    EXPECT_EQ(paints.count, 1);
+  });
+  logic([&] {
+    P.INF.Caption("X= 2");
+    P.Refresh();
+    EXPECT_EQ(paints.count, 2);
+  });
+}
 
 TEST_F(Controls, ScrollBarFollowsTheModelWithoutAnEcho) {
   auto* bar = as<QScrollBar>(P.X_SC);

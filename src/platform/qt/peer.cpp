@@ -97,8 +97,9 @@ void ControlPeer::update(uint32_t changes) {
   if (changes & forms::ENABLED) enable(control_.is_enabled());
   if (changes & forms::TEXT) {
     const std::string& name = control_.accessible_name.empty() ? control_.ToolTip() : control_.accessible_name;
-    widget_->setToolTip(to_qt(control_.ToolTip()));
-    widget_->setAccessibleName(to_qt(name));
+    // Both tell the whole program of a change, even of none.
+    if (const QString tip = to_qt(control_.ToolTip()); tip != widget_->toolTip()) widget_->setToolTip(tip);
+    if (const QString said = to_qt(name); said != widget_->accessibleName()) widget_->setAccessibleName(said);
   }
   if (changes & forms::POINTER) {
     if (control_.MousePointer() == 0) {

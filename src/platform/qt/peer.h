@@ -46,6 +46,7 @@ class ControlPeer : public QObject, public forms::Peer {
   // Most surfaces of the program never are.
   void realize();
   QWidget* widget() const { return widget_; }
+  virtual void hurry() {}                  // marks for painting what it would have painted a little later
   virtual int inset() const { return 0; }  // pixels from the widget's corner to that of the inside
 
  protected:

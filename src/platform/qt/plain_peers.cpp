@@ -1,4 +1,5 @@
 // The controls that only show something: label, image, shape, frame; and the timer, which shows nothing.
+#include <QBasicTimer>
 #include <QGroupBox>
 #include <QPaintEvent>
 #include <QPainter>
@@ -56,6 +57,11 @@ class PointedPeer : public PaintedPeer {
 class LabelPeer final : public PointedPeer<forms::Label> {
  public:
   using PointedPeer::PointedPeer;
+  void hurry() override {
+    if (!late_.isActive()) return;
+    late_.stop();
+    if (widget()) widget()->update();
+  }
 
  protected:
   void refresh(uint32_t changes) override {
@@ -63,8 +69,13 @@ class LabelPeer final : public PointedPeer<forms::Label> {
       widget()->setAttribute(Qt::WA_OpaquePaintEvent, !model_.transparent);
       widget()->setFont(font_of(model_.font()));
     }
-    PaintedPeer::refresh(changes);
+    if (changes != forms::TEXT) {
+      PaintedPeer::refresh(changes);
+    } else if (!late_.isActive()) {
+      late_.start(A_FRAME, this);
+    }
   }
+  void timerEvent(QTimerEvent* /*event*/) override { hurry(); }
   void paint(QPainter& p, const QRect& all) override {
     if (!model_.transparent) p.fillRect(all, colour_of(model_.BackColor()));
     const int align = model_.align == forms::Label::Align::left    ? Qt::AlignLeft | Qt::AlignTop
@@ -74,6 +85,12 @@ class LabelPeer final : public PointedPeer<forms::Label> {
     p.setPen(colour_of(model_.is_enabled() ? model_.ForeColor() : 0x808080));
     p.drawText(all, align | wrap, to_qt(model_.Caption()));
   }
+
+ private:
+  // A new text waits as long as a screen takes to show anything: the position of the pointer changes with every point
+  // of a stroke, and laying out its digits takes longer than the stroke's own pixels.
+  static constexpr int A_FRAME = 16;  // ms
+  QBasicTimer late_;
 };
 
 class ImagePeer final : public PointedPeer<forms::ImageBox> {

@@ -181,6 +181,9 @@ void WindowPeer::paint_now() {
     wait_until_exposed();
     QMetaObject::invokeMethod(this, &WindowPeer::follow, Qt::QueuedConnection);
   }
+  for (const forms::Control* c : window_.controls()) {
+    if (ControlPeer* peer = dynamic_cast<ControlPeer*>(c->peer.get())) peer->hurry();
+  }
   QCoreApplication::sendPostedEvents(widget, QEvent::UpdateRequest);
 }
 
