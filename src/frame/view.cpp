@@ -69,10 +69,16 @@ void VIEW_REDRAW() {
 }
 
 void VIEW_COMMIT() {
-  take_snapshot();
   if (EXP_RATE == 1) {
-    BitBlt(PIC, VIEW_ORG(1), VIEW_ORG(2), VIEW_PIX(1), VIEW_PIX(2), DRAW, 0, 0);
+    // Strip by strip, so that the picture's rows are still in the cache when they are overwritten.
+    constexpr int STRIP = 32;
+    for (int y = 0; y < VIEW_PIX(2); y += STRIP) {
+      const int h = std::min(STRIP, VIEW_PIX(2) - y);
+      BitBlt(UNDO, 0, y, VIEW_PIX(1), h, PIC, VIEW_ORG(1), VIEW_ORG(2) + y);
+      BitBlt(PIC, VIEW_ORG(1), VIEW_ORG(2) + y, VIEW_PIX(1), h, DRAW, 0, y);
+    }
   } else {
+    take_snapshot();
     read_back(PIC, VIEW_ORG(1), VIEW_ORG(2), VIEW_PIX(1), VIEW_PIX(2), DRAW, EXP_RATE);
   }
 }

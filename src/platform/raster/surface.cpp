@@ -23,10 +23,13 @@ ptrdiff_t stride_for(int width, int depth) {
 
 // A surface that shrinks to less than a quarter gives its memory back, unless it is of the size of a view: work
 // surfaces change between a pen's size and a view's all the time.
+constexpr size_t VIEW = size_t{16} << 20;
 bool worth_keeping(size_t capacity, size_t need) {
-  constexpr size_t VIEW = size_t{16} << 20;
   return need <= capacity && (capacity <= VIEW || capacity / 4 <= need);
 }
+
+// A view grows as its window does, by little and often; pages of its room that are not reached cost nothing.
+size_t with_room(size_t need) { return need <= VIEW ? need + need / 2 : need; }
 
 // A whole picture stands on huge pages where the system has them: fresh memory is then had in half the time, and a walk
 // down its columns misses no address translation. Null if there is no memory.
@@ -90,12 +93,13 @@ void Surface::reshape(int width, int height) {
       for (int y = kept_rows - 1; y > 0; --y) move_row(y);
     }
   } else {
-    std::unique_ptr<uint8_t[], FreeBits> fresh(allocate(need));
+    const size_t room = capacity_ > 0 ? with_room(need) : need;
+    std::unique_ptr<uint8_t[], FreeBits> fresh(allocate(room));
     if (need > 0 && !fresh) throw RuntimeError(7);
     for (int y = 0; y < kept_rows && kept_bytes > 0; ++y)
       std::memcpy(fresh.get() + y * stride, bits_.get() + y * stride_, kept_bytes);
     bits_ = std::move(fresh);
-    capacity_ = need;
+    capacity_ = room;
   }
   stride_ = stride;
   width_ = width;
