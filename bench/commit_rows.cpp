@@ -53,6 +53,7 @@ double fill_limit(const Surface& picture) {
 }
 
 double fill_click(const Surface& picture) {
+  show(picture, 1);
   select_tool(8, 1);
   return timed_on(picture, [] {
     press(FILL_START, FILL_START);
