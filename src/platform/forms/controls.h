@@ -41,9 +41,9 @@ class PictureBox : public Control, public PointerEvents, public KeyEvents {
   PictureBox(Window& window, const char* name, int index = -1);
 
   // What drawing and reading pixels go to.
-  raster::Surface& target() { return touched(), auto_redraw_ ? image_ : screen_; }
+  raster::Surface& target() { return touched(), made(auto_redraw_ ? image_ : screen_); }
   operator raster::Surface&() { return target(); }
-  raster::Surface& Image() { return touched(), image_; }
+  raster::Surface& Image() { return touched(), made(image_); }
 
   double ScaleWidth() const { return touched(), width_ / pixels_in(inside); }
   double ScaleHeight() const { return touched(), height_ / pixels_in(inside); }
@@ -81,7 +81,8 @@ class PictureBox : public Control, public PointerEvents, public KeyEvents {
   Scale inside = Scale::pixels;  // unit of its inside
   bool border = false;           // a thin sunken frame, outside of the inside
   Font font;
-  // --- for the peers: what is on the screen, whether the window is loaded or not
+  // --- for the peers: what is on the screen, whether the window is loaded or not. Empty as long as nobody has drawn on
+  // the box or read from it; it is then all BackColor.
   raster::Surface& shown() { return auto_redraw_ ? image_ : screen_; }
 
  protected:
@@ -90,7 +91,12 @@ class PictureBox : public Control, public PointerEvents, public KeyEvents {
   Scale inside_scale() const override { return inside; }
 
  private:
+  raster::Surface& made(raster::Surface& s) { return has_image_ ? s : (make_image(), s); }
+  void make_image();
+
   raster::Surface image_, screen_;
+  bool has_image_ =
+      false;  // a background that is never drawn on, or a work surface before its first use, takes no memory
   bool auto_redraw_ = true, auto_size_ = false;
 };
 

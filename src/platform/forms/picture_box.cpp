@@ -1,6 +1,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/error.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/runtime.h"
 #include "platform/number.h"
@@ -17,6 +18,7 @@ int whole(double px) { return std::max(0, static_cast<int>(std::lround(px))); }
 }  // namespace
 
 void PictureBox::resized(bool quietly) {
+  if (whole(width_) > raster::MAX_SIDE || whole(height_) > raster::MAX_SIDE) throw RuntimeError(380);
   if (image_.depth() != desktop().depth) {
     const raster::DrawState draw = image_.draw;
     image_ = Surface(desktop().depth);
@@ -24,13 +26,19 @@ void PictureBox::resized(bool quietly) {
     image_.draw = screen_.draw = draw;
   }
   const raster::Colour back = plain_colour(back_color_);
-  image_.resize(whole(width_), whole(height_), back);
+  if (has_image_) image_.resize(whole(width_), whole(height_), back);
   if (!auto_redraw_) screen_.resize(whole(width_), whole(height_), back);
   if (!quietly) Resize.fire(index);
 }
 
+void PictureBox::make_image() {
+  image_.resize(whole(width_), whole(height_), plain_colour(back_color_));
+  has_image_ = true;
+}
+
 void PictureBox::AutoRedraw(bool v) {
   if (touched(), auto_redraw_ == v) return;
+  made(image_);
   auto_redraw_ = v;
   if (v) {
     image_.touch_all();
@@ -58,6 +66,7 @@ void PictureBox::Picture(Surface&& bitmap) {
   }
   image_.draw = draw;
   image_.touch_all();
+  has_image_ = true;
   if (auto_size_) {
     const double px = pixels_in(container_scale());
     Move(Left(), Top(), w / px, h / px);
@@ -66,7 +75,10 @@ void PictureBox::Picture(Surface&& bitmap) {
   }
 }
 
-void PictureBox::Cls() { target().fill(plain_colour(back_color_)); }
+void PictureBox::Cls() {
+  touched();
+  if (has_image_) target().fill(plain_colour(back_color_));
+}
 
 void PictureBox::Refresh() {
   touched();
@@ -90,6 +102,7 @@ void PictureBox::back_to_design() {
   Control::back_to_design();
   image_ = Surface(desktop().depth);
   screen_ = Surface(desktop().depth);
+  has_image_ = false;
   auto_redraw_ = true;
   auto_size_ = false;
   inside = Scale::pixels;
