@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTimer>
 
 #include "platform/qt/look.h"
 #include "qt/display.h"
@@ -258,12 +257,13 @@ TEST_F(Controls, TextSizeIsThatOfTheFontInPixels) {
 
 // Looks at the box that is up, then does something to it.
 template <class F>
-void with_box(F&& look) {
-  QTimer::singleShot(0, [look] {
+void with_box(F look) {
+  const auto find = [look] {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     ASSERT_NE(box, nullptr);
     look(*box);
-  });
+  };
+  QMetaObject::invokeMethod(qApp, find, Qt::QueuedConnection);
 }
 
 QStringList buttons(const QMessageBox& box) {

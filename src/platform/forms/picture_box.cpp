@@ -33,6 +33,7 @@ void PictureBox::resized(bool quietly) {
 
 void PictureBox::make_image() {
   image_.resize(whole(width_), whole(height_), plain_colour(back_color_));
+  image_.take_touched();  // it looks as the box did without it
   has_image_ = true;
 }
 

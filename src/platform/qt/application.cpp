@@ -69,7 +69,7 @@ Application::Application(int& argc, char** argv, bool offscreen) {
   const WhileMade platform("QT_QPA_PLATFORM", offscreen ? QByteArray("offscreen") : qgetenv("QT_QPA_PLATFORM"));
 
   if (offscreen) qInstallMessageHandler(pass_over_warnings);
-  QApplication::setStyle(new ShortHandles);
+  QApplication::setStyle(new ShortHandles);  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): Qt owns it
   app.emplace(argc, argv);
   // Every point of a fast stroke counts. Told after the application is made, as making it for X11 turns the merging on.
   QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);

@@ -11,7 +11,7 @@ namespace qt {
 
 using forms::Control;
 
-int Quiet::depth_ = 0;
+int Quiet::depth = 0;
 
 void retire(QWidget* widget) {
   if (!widget) return;

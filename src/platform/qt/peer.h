@@ -14,14 +14,14 @@ namespace qt {
 // While one lives the display is being made to follow the model, and what it answers is no event of the user.
 class Quiet {
  public:
-  Quiet() { ++depth_; }
-  ~Quiet() { --depth_; }
+  Quiet() { ++depth; }
+  ~Quiet() { --depth; }
   Quiet(const Quiet&) = delete;
   Quiet& operator=(const Quiet&) = delete;
-  static bool now() { return depth_ > 0; }
+  static bool now() { return depth > 0; }
 
  private:
-  static int depth_;
+  static int depth;
 };
 
 // Lets an event of the user into the logic. The peer that calls this may be gone when it returns.
