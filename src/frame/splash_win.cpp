@@ -9,7 +9,9 @@ namespace {
 constexpr int W = 360, H = 120;
 
 void design_splash() {
-  SPLASH_WIN.design((desktop().screen_w - W) / 2 * TWIPS, (desktop().screen_h - H) / 2 * TWIPS, W, H, "Kiso");
+  const int left = (desktop().screen_w - W) / 2;
+  const int top = (desktop().screen_h - H) / 2;
+  SPLASH_WIN.design(left * TWIPS, top * TWIPS, W, H, "Kiso");
   SPLASH_WIN.Title.design(20, 22, W - 40, 28);
   SPLASH_WIN.Title.font({.name = "", .size = 15, .bold = true});
   SPLASH_WIN.Status.design(20, 62, W - 40, 40);

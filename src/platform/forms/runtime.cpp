@@ -1,5 +1,7 @@
 #include "platform/forms/runtime.h"
 
+#include <cmath>
+
 #include "platform/error.h"
 #include "platform/number.h"
 
@@ -29,7 +31,7 @@ std::vector<Window*>& all_windows() { return windows; }
 int Desktop::message_box(const std::string& /*text*/, int /*style*/, const std::string& /*title*/) { return 1; }
 
 void Desktop::text_size(const std::string& text, const Font& font, int& width, int& height) {
-  height = static_cast<int>(font.size * 4 / 3 + 0.5);
+  height = static_cast<int>(std::lround(font.size * 4 / 3));
   width = static_cast<int>(text.size()) * height / 2;
 }
 
