@@ -113,6 +113,9 @@ int main(int argc, char** argv) {
   watch.until_quiet(start, std::atof(argv[1]));
   const long memory = pss(child);
   end(child);
-  if (watch.window < 0 || memory == 0) return 1;
+  if (watch.window < 0 || memory == 0) {
+    std::fprintf(stderr, "mapwait: no window of %s\n", argv[2]);
+    return 1;
+  }
   std::printf("%.1f %.1f %ld\n", watch.window - start, watch.change - start, memory);
 }
