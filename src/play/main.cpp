@@ -57,7 +57,7 @@ void lay_out_home(const std::string& home) {
   fs::create_directories(home, failed);
   for (const auto& entry : fs::directory_iterator(text::executable_directory(), failed)) {
     const std::string name = entry.path().filename().string();
-    if (name.starts_with("DEFAULT.")) fs::copy_file(entry.path(), home + "/" + name, failed);
+    if (name.starts_with("DEFAULT.")) fs::copy_file(entry.path(), fs::path(home) / name, failed);
   }
 }
 
