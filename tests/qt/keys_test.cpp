@@ -6,8 +6,8 @@ namespace kiso_test {
 
 namespace {
 
-int number(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, quint32 scan_code = 0) {
-  return qt::key_number(QKeyEvent(QEvent::KeyPress, key, modifiers, scan_code, 0, 0));
+int number(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, quint32 scan_code = 0, quint32 keysym = 0) {
+  return qt::key_number(QKeyEvent(QEvent::KeyPress, key, modifiers, scan_code, keysym, 0));
 }
 
 int character(int key, const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -41,20 +41,30 @@ TEST_F(Keys, LettersDigitsAndNamedKeysHaveThePlatformsNumbers) {
   EXPECT_EQ(number(Qt::Key_MediaPlay), 0);
 }
 
+// X11 marks the keys of the keypad, Wayland does not.
 TEST_F(Keys, KeypadHasItsNumbersWithNumLockOnAndOff) {
-  constexpr int OFF[] = {Qt::Key_Insert, Qt::Key_End,   Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Left,
-                         Qt::Key_Clear,  Qt::Key_Right, Qt::Key_Home, Qt::Key_Up,       Qt::Key_PageUp};
-  for (int n = 0; n < 10; ++n) {
-    EXPECT_EQ(number(Qt::Key_0 + n, Qt::KeypadModifier), 96 + n);
-    EXPECT_EQ(number(OFF[n], Qt::KeypadModifier), 96 + n);
-    EXPECT_EQ(number(OFF[n], Qt::KeypadModifier | Qt::ShiftModifier), 96 + n);
+  struct Digit {
+    quint32 keysym;
+    int key;
+  };
+  constexpr Digit OFF[] = {{0xFF9E, Qt::Key_Insert},   {0xFF9C, Qt::Key_End},  {0xFF99, Qt::Key_Down},
+                           {0xFF9B, Qt::Key_PageDown}, {0xFF96, Qt::Key_Left}, {0xFF9D, Qt::Key_Clear},
+                           {0xFF98, Qt::Key_Right},    {0xFF95, Qt::Key_Home}, {0xFF97, Qt::Key_Up},
+                           {0xFF9A, Qt::Key_PageUp}};
+  for (const Qt::KeyboardModifiers mark : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::KeypadModifier)}) {
+    for (int n = 0; n < 10; ++n) {
+      EXPECT_EQ(number(Qt::Key_0 + n, mark, 0, 0xFFB0 + static_cast<quint32>(n)), 96 + n);
+      EXPECT_EQ(number(OFF[n].key, mark, 0, OFF[n].keysym), 96 + n);
+      EXPECT_EQ(number(OFF[n].key, mark | Qt::ShiftModifier, 0, OFF[n].keysym), 96 + n);
+    }
+    EXPECT_EQ(number(Qt::Key_Enter, mark, 0, 0xFF8D), 13);
+    EXPECT_EQ(number(Qt::Key_Asterisk, mark, 0, 0xFFAA), 106);
+    EXPECT_EQ(number(Qt::Key_Plus, mark, 0, 0xFFAB), 107);
+    EXPECT_EQ(number(Qt::Key_Minus, mark, 0, 0xFFAD), 109);
+    EXPECT_EQ(number(Qt::Key_Period, mark, 0, 0xFFAE), 110);
+    EXPECT_EQ(number(Qt::Key_Delete, mark, 0, 0xFF9F), 110);
+    EXPECT_EQ(number(Qt::Key_Slash, mark, 0, 0xFFAF), 111);
   }
-  EXPECT_EQ(number(Qt::Key_Enter, Qt::KeypadModifier), 13);
-  EXPECT_EQ(number(Qt::Key_Asterisk, Qt::KeypadModifier), 106);
-  EXPECT_EQ(number(Qt::Key_Plus, Qt::KeypadModifier), 107);
-  EXPECT_EQ(number(Qt::Key_Minus, Qt::KeypadModifier), 109);
-  EXPECT_EQ(number(Qt::Key_Period, Qt::KeypadModifier), 110);
-  EXPECT_EQ(number(Qt::Key_Slash, Qt::KeypadModifier), 111);
 }
 
 TEST_F(Keys, DigitWithShiftKeepsItsNumber) {
@@ -69,7 +79,7 @@ TEST_F(Keys, CharactersAreThoseTyped) {
   EXPECT_EQ(character(Qt::Key_Space, " "), 32);
   EXPECT_EQ(character(Qt::Key_Return, "\r"), 13);
   EXPECT_EQ(character(Qt::Key_Escape, "\x1b"), 27);
-  EXPECT_EQ(character(Qt::Key_8, "8", Qt::KeypadModifier), 56);
+  EXPECT_EQ(character(Qt::Key_8, "8"), 56);
   EXPECT_EQ(character(Qt::Key_Left, ""), 0);
   EXPECT_EQ(character(Qt::Key_Delete, "\x7f"), 0);
   EXPECT_EQ(character(Qt::Key_unknown, "あ"), 0);
@@ -92,7 +102,8 @@ TEST_F(KeysOnDisplay, KeyGoesDownThenGivesItsCharacterThenGoesUp) {
 
 TEST_F(KeysOnDisplay, HeldKeyRepeatsItsPressAlone) {
   const auto keypad_0 = [](QEvent::Type type, bool repeated) {
-    key(type, widget(P.DRAW), Qt::Key_Insert, "", Qt::KeypadModifier, repeated);
+    QKeyEvent event(type, Qt::Key_Insert, Qt::KeypadModifier, 90, 0xFF9E, 0, "", repeated);
+    QCoreApplication::sendEvent(widget(P.DRAW), &event);
   };
   keypad_0(QEvent::KeyPress, false);
   keypad_0(QEvent::KeyRelease, true);
@@ -136,6 +147,44 @@ TEST_F(KeysOnDisplay, PaletteWithoutTextFieldsNeverTakesTheKeyboard) {
   EXPECT_TRUE(qt::widget_of(TOOL)->windowFlags() & Qt::WindowDoesNotAcceptFocus);
   EXPECT_EQ(widget(TOOL.UNDO)->focusPolicy(), Qt::NoFocus);
   EXPECT_EQ(widget(P.X_SC)->focusPolicy(), Qt::NoFocus);
+}
+
+// A palette with a field that is typed into, as the colour window has.
+void design_names();
+struct NamesWindow : Window {
+  NamesWindow() : Window("NAMES", Border::tool, Scale::pixels, design_names) {}
+  ComboBox Combo1{*this, "Combo1"};
+} NAMES;
+void design_names() {
+  NAMES.design(9000, 3000, 100, 60);
+  NAMES.Combo1.design(0, 0, 90, 22);
+}
+
+TEST_F(KeysOnDisplay, PaletteWithATextFieldGivesItTheKeyboardOnlyWhenItIsAskedTo) {
+  logic([] { NAMES.Show(&P); });
+  settle();
+  QWidget* palette = qt::widget_of(NAMES);
+  EXPECT_FALSE(palette->windowFlags() & Qt::WindowDoesNotAcceptFocus);
+  palette->activateWindow();
+  settle();
+  taken();
+  const auto type = [&](int key_, const char* text) {
+    QWidget* to = palette->focusWidget() ? palette->focusWidget() : palette;
+    key(QEvent::KeyPress, to, key_, text);
+  };
+  type(Qt::Key_A, "a");
+  EXPECT_EQ(taken(), (Said{"key 65 0", "character 97"}));
+  widget(NAMES.Combo1)->setFocus(Qt::MouseFocusReason);
+  type(Qt::Key_B, "b");
+  type(Qt::Key_Return, "\r");
+  EXPECT_EQ(taken(), Said{});
+  EXPECT_EQ(NAMES.Combo1.Text(), "b");
+  qt::widget_of(P)->activateWindow();
+  settle();
+  palette->activateWindow();
+  settle();
+  type(Qt::Key_C, "c");
+  EXPECT_EQ(taken(), (Said{"key 67 0", "character 99"}));
 }
 
 }  // namespace

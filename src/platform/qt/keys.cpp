@@ -21,17 +21,21 @@ constexpr KeyRow KEYS[] = {
     {Qt::Key_NumLock, 144}, {Qt::Key_ScrollLock, 145},
 };
 
-// With NumLock off the same keys of the keypad come under other names.
-constexpr KeyRow KEYPAD[] = {
-    {Qt::Key_Insert, 96},  {Qt::Key_End, 97},       {Qt::Key_Down, 98},  {Qt::Key_PageDown, 99}, {Qt::Key_Left, 100},
-    {Qt::Key_Clear, 101},  {Qt::Key_Right, 102},    {Qt::Key_Home, 103}, {Qt::Key_Up, 104},      {Qt::Key_PageUp, 105},
-    {Qt::Key_Delete, 110}, {Qt::Key_Asterisk, 106}, {Qt::Key_Plus, 107}, {Qt::Key_Minus, 109},   {Qt::Key_Period, 110},
-    {Qt::Key_Comma, 110},  {Qt::Key_Slash, 111},    {Qt::Key_Enter, 13},
-};
+// The number of a key of the keypad by its X keysym, which Wayland has too; 0 for other keys. With NumLock off the same
+// keys come under other names.
+int keypad_number(quint32 keysym) {
+  constexpr quint32 KP_HOME = 0xFF95, KP_DELETE = 0xFF9F, KP_MULTIPLY = 0xFFAA, KP_DIVIDE = 0xFFAF, KP_0 = 0xFFB0,
+                    KP_9 = 0xFFB9;
+  // Home, Left, Up, Right, Down, PageUp, PageDown, End, Begin, Insert, Delete
+  constexpr int LOCK_OFF[] = {103, 100, 104, 102, 98, 105, 99, 97, 101, 96, 110};
+  if (keysym >= KP_HOME && keysym <= KP_DELETE) return LOCK_OFF[keysym - KP_HOME];
+  if (keysym >= KP_MULTIPLY && keysym <= KP_DIVIDE) return static_cast<int>(106 + keysym - KP_MULTIPLY);
+  if (keysym >= KP_0 && keysym <= KP_9) return static_cast<int>(96 + keysym - KP_0);
+  return 0;
+}
 
-template <size_t N>
-int look_up(const KeyRow (&rows)[N], int key) {
-  for (const KeyRow& row : rows) {
+int look_up(int key) {
+  for (const KeyRow& row : KEYS) {
     if (row.key == key) return row.number;
   }
   return 0;
@@ -45,13 +49,10 @@ int digit_of_place(quint32 scan_code) { return scan_code >= 10 && scan_code <= 1
 
 int key_number(const QKeyEvent& event) {
   const int key = event.key();
-  if (event.modifiers() & Qt::KeypadModifier) {
-    if (key >= Qt::Key_0 && key <= Qt::Key_9) return 96 + key - Qt::Key_0;
-    return look_up(KEYPAD, key);
-  }
+  if (const int number = keypad_number(event.nativeVirtualKey())) return number;
   if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9)) return key;
   if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return 112 + key - Qt::Key_F1;
-  if (const int number = look_up(KEYS, key)) return number;
+  if (const int number = look_up(key)) return number;
   return digit_of_place(event.nativeScanCode());
 }
 

@@ -84,6 +84,7 @@ bool PicturePeer::eventFilter(QObject* /*watched*/, QEvent* event) {
     // A key that repeats or means nothing here still ends here.
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
+      keypad_from(*widget());
       if (reachable()) key_event(box_, box_, *static_cast<QKeyEvent*>(event));
       return true;
     case QEvent::FocusIn: set_keyboard(box_.window, widget()); return false;

@@ -105,11 +105,6 @@ namespace {
 // The pointer's place on the screen.
 QPointF pointer_place() {
   if (moves_real_pointer()) return QCursor::pos();
-  QWidget* focus = QApplication::focusWidget();
-  if (!keypad.window && focus) {
-    keypad.window = focus->window();
-    keypad.place = focus->mapTo(focus->window(), QPointF(focus->rect().center()));
-  }
   return keypad.window ? keypad.window->mapToGlobal(keypad.place) : QPointF();
 }
 
@@ -150,7 +145,6 @@ void move_now(int dx, int dy) {
 
 void press_now() {
   if (keypad.down || (QGuiApplication::mouseButtons() & Qt::LeftButton)) return;
-  pointer_place();
   keypad.held = under_pointer();
   if (!keypad.held) return;
   keypad.down = true;
@@ -175,6 +169,12 @@ void keypad_move(int dx, int dy) {
 }
 
 void keypad_button(bool down) { QMetaObject::invokeMethod(qApp, down ? press_now : release_now, Qt::QueuedConnection); }
+
+void keypad_from(QWidget& picture) {
+  if (keypad.window == picture.window()) return;
+  keypad.window = picture.window();
+  keypad.place = picture.mapTo(picture.window(), QPointF(picture.visibleRegion().boundingRect().center()));
+}
 
 void keypad_let_go() {
   if (keypad.down) keypad_button(false);

@@ -32,6 +32,9 @@ int button_state(Qt::MouseButtons buttons);
 // --- the keypad's pointer. Each takes effect after the running event, and enters where a real pointer's event enters.
 void keypad_move(int dx, int dy);
 void keypad_button(bool down);
+// This picture's keys are those that may ask for the pointer to move. Where the pointer can not be moved and is not
+// over its window, it counts as standing in the picture's middle.
+void keypad_from(QWidget& picture);
 // Releases the button that the keypad holds: the key's own release is not going to come.
 void keypad_let_go();
 

@@ -52,6 +52,7 @@ QWidget* TextPeer::make(QWidget* parent) {
   }
   QWidget* w = page_ ? static_cast<QWidget*>(page_) : line_;
   w->setContextMenuPolicy(Qt::PreventContextMenu);
+  if (leaves_keyboard()) w->setFocusPolicy(Qt::ClickFocus);
   return w;
 }
 
@@ -103,6 +104,7 @@ QWidget* ComboPeer::make(QWidget* parent) {
   w->setEditable(true);
   w->setInsertPolicy(QComboBox::NoInsert);
   w->setCompleter(nullptr);
+  if (leaves_keyboard()) w->setFocusPolicy(Qt::ClickFocus);  // not by itself, when the window is activated
   w->lineEdit()->setContextMenuPolicy(Qt::PreventContextMenu);
   connect(w->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
     if (reachable()) user_event([&] { box_.Text(from_qt(text)); });
@@ -140,6 +142,7 @@ class ListPeer final : public ControlPeer {
  protected:
   QWidget* make(QWidget* parent) override {
     auto* w = new QListWidget(parent);
+    if (leaves_keyboard()) w->setFocusPolicy(Qt::ClickFocus);
     connect(w, &QListWidget::currentRowChanged, this, [this](int row) {
       if (reachable()) user_event([&] { box_.ListIndex(row); });
     });

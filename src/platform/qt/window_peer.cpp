@@ -290,6 +290,10 @@ bool WindowPeer::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::WindowStateChange: follow(); return false;
+    case QEvent::WindowDeactivate:
+      // The next click on a palette is meant for what it hits, and its keys for the picture.
+      if (is_tool(window_)) widget->setFocus();
+      return false;
     case QEvent::KeyPress:
     case QEvent::KeyRelease: key_pressed(static_cast<QKeyEvent*>(event)); return true;
     default: return false;
