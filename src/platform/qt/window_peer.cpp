@@ -69,6 +69,7 @@ class WindowPeer final : public QObject, public forms::Peer {
   void appear();
   void set_state();
   void wait_until_exposed();
+  void exposed();
   void uncovered();
   void key_pressed(QKeyEvent* event);
   QWindow* handle() const { return widget->windowHandle(); }
@@ -223,6 +224,12 @@ void WindowPeer::follow() {
   });
 }
 
+void WindowPeer::exposed() {
+  const QPointer<QObject> alive(this);
+  follow();
+  if (alive) uncovered();
+}
+
 // What a box shows with AutoRedraw off is the program's to paint again.
 void WindowPeer::uncovered() {
   user_event([this] {
@@ -277,8 +284,7 @@ bool is_input(const QEvent* event) {
 bool WindowPeer::eventFilter(QObject* watched, QEvent* event) {
   if (watched != widget) {  // the native window
     if (event->type() == QEvent::Expose && handle()->isExposed()) {
-      QMetaObject::invokeMethod(
-          this, [this] { follow(), uncovered(); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(this, &WindowPeer::exposed, Qt::QueuedConnection);
     }
     return !window_.is_enabled() && is_input(event);
   }
