@@ -53,12 +53,13 @@ expect_same() {
 # open_editor FILE [VARIABLE=VALUE...]: as at a first start, in a program directory of its own; sets $editor, its process,
 # and $window, and finds the picture.
 open_editor() {
+  scale='' left='' top=''
   mkdir -p "$scratch/home"
   cp "$desktop"/../../assets/DEFAULT.* "$scratch/home"
   start env "${@:2}" KISO_HOME="$scratch/home" "$bin/KISO72" "$1" &>"$scratch/KISO72.log"
   editor=$started
   until_true "the window of $1" find_window "Kiso :.*$(basename "$1")"
-  until_true "the picture on the screen" find_draw
+  until_true "the picture on the screen" picture_stands
 }
 
 # find_window TITLE: sets $window to the visible window whose title matches
@@ -68,20 +69,28 @@ find_window() {
 }
 
 # Sets $left and $top, the place of DRAW's first pixel on the screen, and $scale, the screen pixels a side of a pixel of
-# the picture: the corner pixel is the only thing of its colour.
+# the picture: the corner pixel is the only thing of its colour. They stay as they were where it is not seen.
 find_draw() {
-  local height
-  read -r scale height left top < <(import -silent -window root miff:- |
+  local width height x y
+  read -r width height x y < <(import -silent -window root miff:- |
     convert - -fill black +opaque '#FF01FE' -trim -format '%w %h %X %Y\n' info:)
-  [ "$scale" = "$height" ] && [ "$scale" -le 16 ]
+  [ "$width" = "$height" ] && [ "$width" -le 16 ] || return
+  scale=$width left=$x top=$y
 }
 
-# shows FILE: the picture stands at DRAW's place on the screen, each pixel a sharp square
+# The corner pixel is seen, and where it was seen a moment ago: a window manager moves a new window once more.
+picture_stands() {
+  local before="${scale-} ${left-} ${top-}"
+  find_draw && [ "$before" = "$scale $left $top" ]
+}
+
+# shows FILE: the picture stands at DRAW's place on the screen, each pixel a sharp square; where it does not, the place is
+# looked for anew
 shows() {
   convert "$1" -scale "$((scale * 100))%" "$scratch/wanted.png"
   import -silent -window root -crop "$(identify -format '%wx%h' "$scratch/wanted.png")+$((left))+$((top))" +repage \
     "$scratch/seen.png"
-  same "$scratch/wanted.png" "$scratch/seen.png"
+  same "$scratch/wanted.png" "$scratch/seen.png" || { find_draw || true; return 1; }
 }
 
 expect_shows() {
