@@ -105,6 +105,7 @@ void p_win::Form_Load() {
   APP_PATH = text::SHORT_PATH(text::program_directory());
   APP_TITLE = "Kiso ";
   ask_for_deep_display();
+  READ_AIN();
   P_WIN.Caption(APP_TITLE + ":" + first_picture());
   start_values();
   splash_win::show_status("Initilizing from kiso.cnf...");

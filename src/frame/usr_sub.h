@@ -72,4 +72,22 @@ void DICT_CELL_SHOW(int index, int r, int g, int b);
 // The dictionary cell of a letter key (65 to 90) is read, or written with the colour given.
 void DICT_KEY(int letter, Colour pixel);
 
+// --- addin; its tables are in frame/addins.h
+void READ_AIN();   // the tables from KISO.AIN, which is made from its template if there is none
+void WRITE_AIN();  // KISO.AIN anew, the tables in the places that DEFAULT.AIN marks
+// The first add-in of that identifier; result 0 found, 1 not found: exe is left as it was then.
+void ADDIN_LOOKUP(const std::string& id, std::string& title, std::string& exe, int& index, int& result);
+void AIP_READ(const std::string& path);  // a parameter file into the fields of ADD_WIN
+void AIP_CHECK(int& result);             // 1: its add-in is installed already, the user has been told
+// Installs what AIP_READ has read, after AIP_CHECK, and asks the user where it has to. False if it was refused; the
+// user has been told.
+bool AIP_INSTALL();
+// prefix, the six digits of the time, ".", extension
+void TEMP_NAME(const std::string& prefix, const std::string& extension, std::string& result);
+// A command template with its tokens %GP %FN %ON %SO %OF replaced; %OF of a PIC_FILE below four characters is error 5.
+void EXPAND_COMMAND(const std::string& command, const std::string& temp, std::string& result);
+// Starts a program by a command line and returns when it has ended; events run meanwhile. False if there is no such
+// program; the user has been told.
+bool RUN_AND_WAIT(const std::string& command);
+
 }  // namespace kiso

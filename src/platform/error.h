@@ -40,3 +40,14 @@ inline const char* error_text(int number) {
 }
 
 inline RuntimeError::RuntimeError(int number_) : RuntimeError(number_, error_text(number_)) {}
+
+// Runs f and goes on after a run-time error in it: its number, 0 if there was none.
+template <class F>
+int ignore_errors(F f) {
+  try {
+    f();
+  } catch (const RuntimeError& e) {
+    return e.number;
+  }
+  return 0;
+}

@@ -81,6 +81,8 @@ void PlayDesktop::do_events() {}
 void PlayDesktop::quit() {}
 void PlayDesktop::beep() { player.logs["beeps"].push_back("beep"); }
 
+std::string PlayDesktop::clock() { return player.clock.empty() ? QtDesktop::clock() : player.clock; }
+
 void PlayDesktop::pointer_move(int dx, int dy) {
   player.keypad.emplace_back([dx, dy] {
     player.x += static_cast<float>(dx);

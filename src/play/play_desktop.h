@@ -16,6 +16,7 @@ class PlayDesktop : public qt::QtDesktop {
   void error_box(int number, const std::string& text) override;
   void do_events() override;
   void beep() override;
+  std::string clock() override;
   void quit() override;
   void pointer_move(int dx, int dy) override;
   void pointer_button(bool down) override;

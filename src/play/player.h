@@ -22,6 +22,7 @@ struct Player {
   bool started = false;
   bool expectation_failed = false;
   bool stopped = false;  // by the command end, or by expect-error
+  std::string clock;     // the time that the clock shows, "" for the real one
 
   // Where the pointer is, and what it holds.
   forms::Control* under_pointer = nullptr;

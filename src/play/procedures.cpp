@@ -69,6 +69,26 @@ const Procedure PROCEDURES[] = {
     {"SAVE_PICTURE", 1, [](const Args& a) { return SAVE_PICTURE(a[0]), std::string(); }},
     {"UPPER_ASCII", 1, [](const Args& a) { return text::UPPER_ASCII(a[0]); }},
     {"SHORT_PATH", 1, [](const Args& a) { return text::SHORT_PATH(a[0]); }},
+    {"TEMP_NAME", 2,
+     [](const Args& a) {
+       std::string name;
+       TEMP_NAME(a[0], a[1], name);
+       return name;
+     }},
+    {"EXPAND_COMMAND", 2,
+     [](const Args& a) {
+       std::string expanded;
+       EXPAND_COMMAND(a[0], a[1], expanded);
+       return expanded;
+     }},
+    {"ADDIN_LOOKUP", 1,
+     [](const Args& a) {
+       std::string title, exe;
+       int index = 0, result = 0;
+       ADDIN_LOOKUP(a[0], title, exe, index, result);
+       return title + " " + exe + " " + real(index) + " " + real(result);
+     }},
+    {"RUN_AND_WAIT", 1, [](const Args& a) { return RUN_AND_WAIT(a[0]), std::string(); }},
 };
 
 }  // namespace

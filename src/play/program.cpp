@@ -56,6 +56,17 @@ void option(const Args& args) {
   if (!take_option(args[0], args[1])) throw ScriptError("unknown option " + args[0]);
 }
 
+// "HH:MM:SS"
+void time(const Args& args) {
+  const std::string& t = args[0];
+  const bool formed =
+      t.size() == 8 && t[2] == ':' && t[5] == ':' &&
+      (t.substr(0, 2) + t.substr(3, 2) + t.substr(6)).find_first_not_of("0123456789") == std::string::npos;
+  if (!formed || t.substr(0, 2) > "23" || t.substr(3, 2) > "59" || t.substr(6) > "59")
+    throw ScriptError("no time of day: " + t);
+  player.clock = t;
+}
+
 // --- files
 
 void fail_if(bool failed, const std::string& what) {
@@ -119,6 +130,7 @@ std::vector<Command> program_commands() {
       {"copy", 2, 2, false, copy},    {"remove", 1, 1, false, remove},
       {"write", 1, -1, false, write}, {"write-unix", 1, -1, false, write_unix},
       {"exec", 1, 1, false, exec},    {"answer", 1, -1, false, answer},
+      {"time", 1, 1, false, time},
   };
 }
 

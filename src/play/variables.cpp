@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/addins.h"
 #include "frame/cmd_win.h"
 #include "frame/p_win.h"
 #include "play/script.h"
@@ -120,6 +121,47 @@ constexpr VariableRow VARIABLES[] = {
     PLAIN(RCLICK_PICK),
     PLAIN(LINE_MODE),
     PLAIN(PRT_REDISP),
+    // add-ins
+    ROW(AD_NAME),
+    ROW(AD_ID),
+    ROW(AD_PATH),
+    ROW(AD_KIND),
+    PLAIN(AD_CNT),
+    ROW(FR_ID),
+    ROW(FR_CMD),
+    ROW(FR_FILTER),
+    ROW(FR_EXT),
+    PLAIN(FR_CNT),
+    ROW(FW_ID),
+    ROW(FW_CMD),
+    ROW(FW_FILTER),
+    ROW(FW_EXT),
+    PLAIN(FW_CNT),
+    ROW(SP_ID),
+    ROW(SP_CMD),
+    PLAIN(SP_CNT),
+    ROW(TW_ID),
+    ROW(TW_CMD),
+    PLAIN(TWSL_ON),
+    PLAIN(TWSC_ON),
+    // fields of ADD_WIN
+    PLAIN(AIP_SCAN),
+    PLAIN(AIP_SELECT),
+    PLAIN(AIP_NAME),
+    PLAIN(AIP_ID),
+    PLAIN(AIP_EXE),
+    PLAIN(AIP_KIND),
+    ROW(AIP_TW),
+    ROW(AIP_FR_CMD),
+    ROW(AIP_FR_FILTER),
+    ROW(AIP_FR_EXT),
+    PLAIN(AIP_FR_CNT),
+    ROW(AIP_FW_CMD),
+    ROW(AIP_FW_FILTER),
+    ROW(AIP_FW_EXT),
+    PLAIN(AIP_FW_CNT),
+    PLAIN(AIP_HAS_SPOP),
+    PLAIN(AIP_SPOP),
     // fields of P_WIN
     PLAIN(COL_A),
     PLAIN(COL_B),

@@ -1,6 +1,7 @@
 #include "platform/forms/runtime.h"
 
 #include <cmath>
+#include <ctime>
 
 #include "platform/error.h"
 #include "platform/number.h"
@@ -33,6 +34,15 @@ int Desktop::message_box(const std::string& /*text*/, int /*style*/, const std::
 void Desktop::text_size(const std::string& text, const Font& font, int& width, int& height) {
   height = static_cast<int>(std::lround(font.size * 4 / 3));
   width = static_cast<int>(text.size()) * height / 2;
+}
+
+std::string Desktop::clock() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  char text[9];
+  std::strftime(text, sizeof text, "%T", &local);
+  return text;
 }
 
 bool enter_raw(void (*run)(void*), void* with) {
@@ -95,6 +105,7 @@ int MsgBox(const std::string& text, int style, const std::string& title) {
 }
 
 void Beep() { the_desktop->beep(); }
+std::string Time() { return the_desktop->clock(); }
 
 void mouse_event(int what, int dx, int dy) {
   if (what == 1) {

@@ -23,7 +23,8 @@ class Desktop {
   virtual void error_box(int /*number*/, const std::string& /*text*/) {}  // an error that nothing caught
   virtual void do_events() {}
   virtual void beep() {}
-  virtual void quit() {}  // the program has ended; events are no longer wanted
+  virtual std::string clock();  // "HH:MM:SS"
+  virtual void quit() {}        // the program has ended; events are no longer wanted
   // The pointer moves by dx, dy screen pixels, or the left button goes down or up where the pointer is. The events that
   // follow enter later, where those of a real pointer enter.
   virtual void pointer_move(int /*dx*/, int /*dy*/) {}
@@ -75,6 +76,8 @@ bool reachable(const Window& window);
 // second button default, 512 third. Answers 1 OK, 2 Cancel, 6 Yes, 7 No.
 int MsgBox(const std::string& text, int style = 0, const std::string& title = "");
 void Beep();
+// The time of day, two digits each of hours in 24-hour count, minutes and seconds: "HH:MM:SS".
+std::string Time();
 
 // The keypad's pointer: what 1 moves it by dx, dy screen pixels, 2 is left button down, 4 left button up.
 void mouse_event(int what, int dx, int dy);

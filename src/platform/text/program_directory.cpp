@@ -84,6 +84,8 @@ std::string SHORT_PATH(const std::string& path) {
   std::error_code failed;
   if (!fs::exists(path, failed)) return "";
   if (path.find(' ') == std::string::npos) return path;
+  if (path.ends_with('/') && path.find_last_not_of('/') != std::string::npos)
+    return SHORT_PATH(path.substr(0, path.find_last_not_of('/') + 1)) + "/";
   const std::string absolute = fs::absolute(path, failed).string();
   const std::string directory = private_directory();
   if (directory.empty()) return path;

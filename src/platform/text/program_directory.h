@@ -13,7 +13,7 @@ std::string program_directory();
 std::string executable_directory();
 
 // A path without blanks to the same file or directory: the path itself if it has none, otherwise through a link in a
-// private run-time directory. "" if it does not exist.
+// private run-time directory. It ends in a separator if the path does. "" if it does not exist.
 std::string SHORT_PATH(const std::string& path);
 
 }  // namespace text
