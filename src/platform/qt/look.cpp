@@ -29,7 +29,7 @@ struct FontRow {
 
 QStringList families_of(const QString& name) {
   const QStringList gothic = {"IPAGothic", "VL Gothic", "TakaoGothic", "Noto Sans Mono CJK JP", "Monospace"};
-  const QStringList proportional = {"IPAPGothic", "VL PGothic", "TakaoPGothic", "Noto Sans CJK JP", "Sans Serif"};
+  QStringList proportional = {"IPAPGothic", "VL PGothic", "TakaoPGothic", "Noto Sans CJK JP", "Sans Serif"};
   const FontRow rows[] = {{"ＭＳ ゴシック", gothic},
                           {"MS Gothic", gothic},
                           {"ＭＳ Ｐゴシック", proportional},
@@ -76,7 +76,7 @@ const forms::Sheet* find_sheet(const char* name) {
 }
 
 QImage picture_of(const forms::Sheet& sheet) {
-  return QImage(reinterpret_cast<const uchar*>(sheet.pixels), sheet.width, sheet.height, sheet.width * 4,
+  return QImage(reinterpret_cast<const uchar*>(sheet.pixels), sheet.width, sheet.height, sheet.width * qsizetype{4},
                 QImage::Format_ARGB32);
 }
 
