@@ -32,6 +32,7 @@ inline const char* error_text(int number) {
     case 74: return "ディスク間で名前を変更することはできません。";
     case 75: return "パス名が無効です。";
     case 76: return "パスが見つかりません。";
+    case 364: return "オブジェクトはアンロードされました。";
     case 380: return "プロパティの値が不正です。";
     case 481: return "ピクチャが不正です。";
     case 482: return "プリンタ エラーです。";

@@ -26,6 +26,7 @@ void Window::Load() {
   peer = desktop().show(*this);
   for (Control* c : controls_) c->peer = desktop().show(*c);
   Form_Load.fire(-1);
+  if (!loaded_) throw RuntimeError(364);
 }
 
 bool Window::Unload() {

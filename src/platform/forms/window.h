@@ -167,7 +167,8 @@ class Window {
   const Scale scale;
 
   bool Loaded() const { return loaded_; }  // asking does not load
-  // Runs the design, makes the peers and fires Form_Load; nothing if it is loaded.
+  // Runs the design, makes the peers and fires Form_Load; nothing if it is loaded. Error 364 if it unloads itself
+  // there.
   void Load();
   // Fires Form_QueryUnload and Form_Unload, each of which may cancel; nothing if it is not loaded. False if cancelled.
   bool Unload();
@@ -262,18 +263,17 @@ class Window {
 
 // A control array with the indices 0 to N - 1, each control built with its index. An index outside is error 9.
 template <class T, int N>
-class ControlArray {
- public:
+struct ControlArray {
   ControlArray(Window& window, const char* name) : ControlArray(window, name, std::make_index_sequence<N>()) {}
-  T& operator()(int i) { return *items_[place(i)]; }
+  T& operator()(int i) { return items[place(i)]; }
   static constexpr int count = N;
+  T items[N];  // so that a table can name one of them
 
  private:
   template <size_t... I>
   ControlArray(Window& window, const char* name, std::index_sequence<I...> /*indices*/)
-      : items_{std::make_unique<T>(window, name, static_cast<int>(I))...} {}
+      : items{T(window, name, static_cast<int>(I))...} {}
   static size_t place(int i);
-  std::unique_ptr<T> items_[N];
 };
 
 [[noreturn]] void throw_subscript();
