@@ -245,8 +245,8 @@ TEST_F(Controls, TimerTicksUntilItIsStopped) {
 
 TEST_F(Controls, TextSizeIsThatOfTheFontInPixels) {
   int w1 = 0, h1 = 0, w2 = 0, h2 = 0;
-  desktop_->text_size("絵", {"ＭＳ ゴシック", 12}, w1, h1);
-  desktop_->text_size("絵\r絵絵", {"ＭＳ ゴシック", 12}, w2, h2);
+  desktop_->text_size("絵", {"ＭＳ ゴシック", 12}, 0, w1, h1);
+  desktop_->text_size("絵\r絵絵", {"ＭＳ ゴシック", 12}, 0, w2, h2);
   EXPECT_EQ(w1, 16) << "12 points are 16 pixels, and a letter of Japanese is square";
   EXPECT_EQ(w2, 32);
   EXPECT_GE(h1, 16);

@@ -174,7 +174,7 @@ void Label::fit() {
   if (!auto_size_) return;
   int w = 0;
   int h = 0;
-  desktop().text_size(caption_, font_, w, h);
+  desktop().text_size(caption_, font_, 0, w, h);
   const double px = pixels_in(container_scale());
   Move(Left(), Top(), w / px, h / px);
 }

@@ -31,9 +31,12 @@ std::vector<Window*>& all_windows() { return windows; }
 
 int Desktop::message_box(const std::string& /*text*/, int /*style*/, const std::string& /*title*/) { return 1; }
 
-void Desktop::text_size(const std::string& text, const Font& font, int& width, int& height) {
+void Desktop::text_size(const std::string& text, const Font& font, int wrap, int& width, int& height) {
   height = static_cast<int>(std::lround(font.size * 4 / 3));
   width = static_cast<int>(text.size()) * height / 2;
+  if (wrap <= 0 || width <= wrap) return;
+  height *= (width + wrap - 1) / wrap;
+  width = wrap;
 }
 
 std::string Desktop::clock() {

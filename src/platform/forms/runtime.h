@@ -32,8 +32,9 @@ class Desktop {
   virtual bool has_focus(const Window& /*window*/) { return false; }
   // What a script that drives the program may ask for later: texts of the start window, calls of the progress bar.
   virtual void record(const char* /*kind*/, const std::string& /*entry*/) {}
-  // Size of a text in pixels in that font. Without a display: half the font's height a byte.
-  virtual void text_size(const std::string& text, const Font& font, int& width, int& height);
+  // Size of a text in pixels in that font, its lines broken where they get wider than wrap; 0: nowhere. Without a
+  // display: half the font's height a byte.
+  virtual void text_size(const std::string& text, const Font& font, int wrap, int& width, int& height);
 
   raster::PngDecoder png = nullptr;  // reads PNG inside of icons, where the display can
 

@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <algorithm>
+#include <vector>
 
 #include "platform/qt/look.h"
 #include "platform/qt/peer.h"
@@ -21,6 +23,7 @@ class ButtonPeer final : public ControlPeer {
   QWidget* make(QWidget* parent) override {
     auto* w = new QPushButton(parent);
     w->setFocusPolicy(leaves_keyboard() ? Qt::NoFocus : Qt::StrongFocus);
+    w->setDefault(button_.is_default);  // its look; the window hands it the key
     connect(w, &QPushButton::clicked, this, [this] { click(); });
     return w;
   }
@@ -108,8 +111,33 @@ class ChoicePeer final : public ControlPeer {
     if (changes & forms::TEXT) w->setText(caption(model_.Caption()));
     if (changes & forms::VALUE) w->setChecked(model_.Value() != 0);
   }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress || model_.kind != forms::Kind::option_button) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool back = key == Qt::Key_Up || key == Qt::Key_Left;
+    if (!back && key != Qt::Key_Down && key != Qt::Key_Right) return false;
+    choose_neighbour(back);
+    return true;
+  }
 
  private:
+  // An arrow key turns on the option before or behind, round the container.
+  void choose_neighbour(bool back) {
+    std::vector<forms::OptionButton*> options;
+    for (forms::Control* c : model_.window.controls()) {
+      if (c->kind == model_.kind && c->container == model_.container && forms::reachable(*c))
+        options.push_back(static_cast<forms::OptionButton*>(c));
+    }
+    if (back) std::ranges::reverse(options);
+    const auto here = std::ranges::find(options, static_cast<const forms::Control*>(&model_));
+    if (here == options.end()) return;
+    forms::OptionButton& next = here + 1 == options.end() ? *options.front() : **(here + 1);
+    user_event([&] {
+      next.SetFocus();
+      next.Value(1);
+    });
+  }
+
   Model& model_;
 };
 

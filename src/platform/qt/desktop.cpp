@@ -77,8 +77,10 @@ bool QtDesktop::has_focus(const forms::Window& window) {
   return w && w->isActiveWindow();
 }
 
-void QtDesktop::text_size(const std::string& text, const forms::Font& font, int& width, int& height) {
-  const QSize size = QFontMetrics(font_of(font)).size(0, to_qt(text));
+void QtDesktop::text_size(const std::string& text, const forms::Font& font, int wrap, int& width, int& height) {
+  const QFontMetrics letters(font_of(font));
+  const QSize size = wrap > 0 ? letters.boundingRect(0, 0, wrap, QWIDGETSIZE_MAX, Qt::TextWordWrap, to_qt(text)).size()
+                              : letters.size(0, to_qt(text));
   width = size.width();
   height = size.height();
 }

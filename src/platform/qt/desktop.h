@@ -30,7 +30,7 @@ class QtDesktop : public forms::Desktop {
   void pointer_move(int dx, int dy) override;
   void pointer_button(bool down) override;
   bool has_focus(const forms::Window& window) override;
-  void text_size(const std::string& text, const forms::Font& font, int& width, int& height) override;
+  void text_size(const std::string& text, const forms::Font& font, int wrap, int& width, int& height) override;
 
   // Runs start as the first event, and then events until the program has ended. The exit status of the process.
   int run(void (*start)(const std::string& command_line), const std::string& command_line);

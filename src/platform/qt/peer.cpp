@@ -56,12 +56,9 @@ void ControlPeer::realize() {
 }
 
 void realize_inside(const forms::Window& window, const Control* container) {
-  std::vector<Control*> inside;
-  std::ranges::copy_if(window.controls(), std::back_inserter(inside),
-                       [&](const Control* c) { return c->container == container; });
-  std::ranges::stable_sort(inside, {}, &Control::order);
-  for (const Control* c : inside) {
-    if (ControlPeer* peer = peer_of(*c)) peer->realize();
+  for (const Control* c : window.controls()) {
+    ControlPeer* peer = c->container == container ? peer_of(*c) : nullptr;
+    if (peer) peer->realize();
   }
 }
 

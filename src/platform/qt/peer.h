@@ -66,7 +66,8 @@ class ControlPeer : public QObject, public forms::Peer {
   QPointer<QWidget> widget_;
 };
 
-// Makes the widgets of the visible controls in that container (null: of the window itself), lowest first.
+// Makes the widgets of the visible controls in that container (null: of the window itself), in the order of their
+// declaration, which is that of the Tab key too.
 void realize_inside(const forms::Window& window, const forms::Control* container);
 
 // The window's widget, null before it is first shown.

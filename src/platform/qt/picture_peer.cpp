@@ -33,6 +33,7 @@ class PicturePeer final : public ControlPeer {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool takes_keys() const { return box_.KeyDown || box_.KeyPress || box_.KeyUp; }
   void paint(const QPaintEvent& event);
   bool wheel(const QWheelEvent& event);
 
@@ -45,7 +46,7 @@ QWidget* PicturePeer::make(QWidget* parent) {
   auto* w = new QWidget(parent);
   w->setAttribute(Qt::WA_OpaquePaintEvent);
   w->setMouseTracking(static_cast<bool>(box_.MouseMove));
-  if (box_.KeyDown || box_.KeyPress || box_.KeyUp) w->setFocusPolicy(Qt::ClickFocus);
+  if (takes_keys()) w->setFocusPolicy(Qt::ClickFocus);
   track_.second_press_is_press = box_.second_press_is_press;
   return w;
 }
@@ -81,9 +82,10 @@ bool PicturePeer::eventFilter(QObject* /*watched*/, QEvent* event) {
   switch (event->type()) {
     case QEvent::Paint: paint(*static_cast<QPaintEvent*>(event)); return true;
     case QEvent::Wheel: return wheel(*static_cast<QWheelEvent*>(event));
-    // A key that repeats or means nothing here still ends here.
+    // A key that repeats or means nothing here still ends here; one of a control on a page of a dialog passes.
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
+      if (!takes_keys()) return false;
       keypad_from(*widget());
       if (reachable()) key_event(box_, box_, *static_cast<QKeyEvent*>(event));
       return true;

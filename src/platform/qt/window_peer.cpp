@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QRadioButton>
 #include <QThread>
 #include <QWindow>
 #include <algorithm>
@@ -49,6 +50,35 @@ bool wants_keys(const Window& window) {
   });
 }
 
+// Whether the Tab key stops there: at nothing that a page in front hides, and in a group of options at the one that is
+// on.
+bool takes_tab(QWidget& w) {
+  if (!(w.focusPolicy() & Qt::TabFocus) || !w.isVisibleTo(w.window()) || !w.isEnabled()) return false;
+  const QWidget* hit = w.window()->childAt(w.mapTo(w.window(), w.rect().center()));
+  if (hit != &w && !w.isAncestorOf(hit)) return false;
+  const auto* option = qobject_cast<QRadioButton*>(&w);
+  if (!option || option->isChecked()) return true;
+  const auto neighbours = w.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+  return std::ranges::none_of(neighbours, &QRadioButton::isChecked);
+}
+
+class TabbedWidget final : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  bool focusNextPrevChild(bool next) override {
+    QWidget* from = focusWidget() ? focusWidget() : this;
+    const auto step = [next](QWidget* w) { return next ? w->nextInFocusChain() : w->previousInFocusChain(); };
+    for (QWidget* w = step(from); w != from; w = step(w)) {
+      if (w->window() != this || w->focusProxy() || !takes_tab(*w)) continue;
+      w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+      return true;
+    }
+    return false;
+  }
+};
+
 class WindowPeer final : public QObject, public forms::Peer {
  public:
   explicit WindowPeer(Window& window) : window_(window) {}
@@ -87,7 +117,7 @@ bool has_real_frames() { return QGuiApplication::platformName() != QLatin1String
 int pixels(double twips) { return static_cast<int>(std::lround(twips / forms::TWIPS)); }
 
 void WindowPeer::realize() {
-  widget = new QWidget(nullptr, flags_of(window_));
+  widget = new TabbedWidget(nullptr, flags_of(window_));
   widget->setAttribute(Qt::WA_AlwaysShowToolTips);
   if (is_tool(window_)) {
     widget->setAttribute(Qt::WA_ShowWithoutActivating);
