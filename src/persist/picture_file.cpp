@@ -1,6 +1,12 @@
-// The road of a picture between the disk and PIC.
+// The road of a picture between the disk and PIC: BMP and ICO straight, every other kind through an add-in that is
+// given a temporary BMP file.
+#include <optional>
+
+#include "frame/addins.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "platform/text/files.h"
+#include "platform/text/paths.h"
 #include "platform/text/text.h"
 
 namespace kiso {
@@ -13,6 +19,79 @@ constexpr int EXCLAMATION = 48, FILE_NOT_FOUND = 53;
 bool ends_as_own_kind(const std::string& name) {
   const std::string ending = text::Right(text::UPPER_ASCII(text::Trim(name)), 4);
   return ending == ".BMP" || ending == ".ICO";
+}
+
+// The row of a table of readers or writers whose extension the name ends in, the last one of several; -1 for none. An
+// extension in small letters fits no name.
+int row_for(const std::string& name, const RecordTexts& extensions, int rows) {
+  const std::string key = text::UPPER_ASCII(text::Trim(name));
+  for (int i = rows - 1; i >= 0; --i)
+    if (key.ends_with(extensions(i))) return i;
+  return -1;
+}
+
+// False if the registry does not know the add-in; the user has been told.
+bool find_program(const std::string& id, std::string& exe) {
+  std::string title;
+  int index = 0, result = 0;
+  ADDIN_LOOKUP(id, title, exe, index, result);
+  if (result != 0) MsgBox("Add_In情報が不正です実行ファイルを見つけられません");
+  return result == 0;
+}
+
+std::string temporary_name() {
+  std::string temp;
+  TEMP_NAME(APP_PATH + PATH_SEP + "GT", "BMP", temp);
+  return temp;
+}
+
+// Runs the add-in with what of its template could be expanded.
+bool run_addin(const std::string& exe, const std::string& command, const std::string& temp) {
+  std::string args;
+  ignore_errors([&] { EXPAND_COMMAND(command, temp, args); });
+  return RUN_AND_WAIT(exe + " " + args);
+}
+
+std::optional<RuntimeError> failure_of(auto step) {
+  try {
+    step();
+  } catch (const RuntimeError& e) {
+    return e;
+  }
+  return std::nullopt;
+}
+
+void show_palettes_and_remove(const std::string& temp) {
+  if (PAL_SHOWN == 1) PAL_SHOW();
+  ignore_errors([&] { text::Kill(temp); });
+}
+
+// PIC_FILE into PIC, through the temporary file. False if the add-in is not known: the palettes stay hidden then.
+bool load_by_addin(int reader, const std::string& temp) {
+  PAL_HIDE();
+  std::string exe;
+  if (!find_program(FR_ID(reader), exe)) return false;
+  run_addin(exe, FR_CMD(reader), temp);
+  const auto failure = failure_of([&] { PIC.Picture(LoadPicture(temp)); });
+  P_WIN.Enabled(true);
+  show_palettes_and_remove(temp);
+  if (failure) throw RuntimeError(*failure);
+  return true;
+}
+
+// False if the add-in is not known, can not be started, or has not made the file.
+bool save_by_addin(int writer, const std::string& name) {
+  std::string exe;
+  if (!find_program(FW_ID(writer), exe)) return false;
+  PAL_HIDE();
+  const std::string temp = temporary_name();
+  const auto failure = failure_of([&] { SavePicture(PIC.Image(), temp); });
+  PIC_FILE = name;
+  // Without the picture a writer could only do harm to the target.
+  const bool ran = !failure && run_addin(exe, FW_CMD(writer), temp);
+  show_palettes_and_remove(temp);
+  if (failure) throw RuntimeError(*failure);
+  return ran && !text::Dir(name).empty();
 }
 
 void tell_unsupported() { MsgBox("サポート外のファイル形式です。", EXCLAMATION, APP_TITLE); }
@@ -46,16 +125,21 @@ void LOAD_PICTURE(const std::string& name, int& result) {
   PIC_FILE = name;
   Timer2.Enabled(false);  // no auto save while PIC changes
   PIC.AutoSize(true);
-  if (!ends_as_own_kind(name)) {
+  const int reader = row_for(name, FR_EXT, FR_CNT);
+  if (reader < 0 && !ends_as_own_kind(name)) {
     tell_unsupported();
     leave_empty_box();
     result = -2;
     return;
   }
+  const std::string file = reader < 0 ? name : temporary_name();
   try {
-    PIC.Picture(LoadPicture(name));
+    if (reader < 0)
+      PIC.Picture(LoadPicture(file));
+    else
+      result = load_by_addin(reader, file) ? 0 : 1;
   } catch (const RuntimeError& e) {
-    MsgBox("ファイル読み込みエラー (" + text::Str(e.number) + ")\r理由 : " + e.what() + "\rファイル名 : " + name +
+    MsgBox("ファイル読み込みエラー (" + text::Str(e.number) + ")\r理由 : " + e.what() + "\rファイル名 : " + file +
                "\r読み込みを中止します",
            EXCLAMATION, APP_TITLE);
     result = e.number == FILE_NOT_FOUND ? -5 : -1;
@@ -71,12 +155,14 @@ void LOAD_PICTURE(const std::string& name, int& result) {
 bool SAVE_PICTURE(const std::string& name) {
   SET_CURSOR("WAIT");
   Timer2.Enabled(false);
-  if (!ends_as_own_kind(name)) {
+  const int writer = row_for(name, FW_EXT, FW_CNT);
+  if (writer < 0 && !ends_as_own_kind(name)) {
     tell_unsupported();
     SET_CURSOR("NORMAL");
     return false;
   }
   try {
+    if (writer >= 0) return save_by_addin(writer, name);
     SavePicture(PIC.Image(), name);
   } catch (const RuntimeError&) {
     MsgBox(name + "\rパス又はファイル名が不正です　SAVEできません\r正しく入力し直してください。", EXCLAMATION,

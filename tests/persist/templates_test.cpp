@@ -61,8 +61,8 @@ TEST_F(Templates, SettingsHaveEveryKeyInAnOrderThatWorks) {
 }
 
 // Otherwise a file of that code page would turn into UTF-8 at the first rewrite.
-TEST_F(Templates, BothFitTheCodePage) {
-  for (const char* name : {"DEFAULT.CNF", "DEFAULT.CDI"}) {
+TEST_F(Templates, AllFitTheCodePage) {
+  for (const char* name : {"DEFAULT.CNF", "DEFAULT.CDI", "DEFAULT.AIN"}) {
     const auto texts = text::decode(shipped(name));
     EXPECT_EQ(text::encoding_of_bytes(text::encode(texts, text::Encoding::cp932)), text::Encoding::cp932) << name;
   }
