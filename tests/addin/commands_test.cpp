@@ -19,8 +19,8 @@ struct Commands : AddinTest {
 
 TEST_F(Commands, TemporaryNamesComeFromTheClock) {
   std::string name = "old";
-  TEMP_NAME("/home/x/GT", "BMP", name);
-  EXPECT_EQ(name, "/home/x/GT090507.BMP");
+  TEMP_NAME("/a b/GT", "BMP", name);
+  EXPECT_EQ(name, "/a b/GT090507.BMP");
 }
 
 TEST_F(Commands, TokensAreReplacedAndAllElseIsCopied) {
