@@ -34,6 +34,7 @@ inline const char* error_text(int number) {
     case 76: return "パスが見つかりません。";
     case 364: return "オブジェクトはアンロードされました。";
     case 380: return "プロパティの値が不正です。";
+    case 460: return "クリップボードの形式が不正です。";
     case 481: return "ピクチャが不正です。";
     case 482: return "プリンタ エラーです。";
     default: return "アプリケーション定義またはオブジェクト定義のエラーです。";

@@ -1,5 +1,6 @@
 // Pictures that go out, and questions that print their answer.
 #include "frame/usr_sub.h"
+#include "platform/forms/clipboard.h"
 #include "platform/qt/images.h"
 #include "platform/text/text.h"
 #include "play/names.h"
@@ -14,16 +15,37 @@ bool ends_with(const std::string& name, const std::string& ending) {
   return text::Right(text::UPPER_ASCII(name), static_cast<int>(ending.size())) == ending;
 }
 
-void dump(const Args& args) {
-  const raster::Surface& image = surface_named(args[0]).Image();
+void write_picture(const raster::Surface& picture, const std::string& path) {
   try {
-    if (ends_with(args[1], ".PNG")) {
-      if (!qt::save_png(image, args[1])) throw ScriptError("can not write " + args[1]);
+    if (ends_with(path, ".PNG")) {
+      if (!qt::save_png(picture, path)) throw ScriptError("can not write " + path);
     } else {
-      raster::save_bmp(image, args[1]);
+      raster::save_bmp(picture, path);
     }
   } catch (const RuntimeError& e) {
-    throw ScriptError("can not write " + args[1] + ": " + e.what());
+    throw ScriptError("can not write " + path + ": " + e.what());
+  }
+}
+
+void dump(const Args& args) {
+  if (args[0] != "clipboard") {
+    write_picture(surface_named(args[0]).Image(), args[1]);
+    return;
+  }
+  if (!forms::Clipboard::GetFormat(forms::Clipboard::BITMAP)) throw ScriptError("no picture on the clipboard");
+  write_picture(forms::Clipboard::GetData(), args[1]);
+}
+
+// What is no picture leaves the clipboard without one.
+void clip(const Args& args) {
+  const bool is_text = args[0] == "text" && args.size() == 2;
+  if (args.size() == 2 && !is_text) throw ScriptError("unknown word " + args[0]);
+  forms::Clipboard::Clear();
+  if (is_text || args[0] == "empty") return;
+  try {
+    forms::Clipboard::SetData(qt::load_any_picture(args[0]));
+  } catch (const RuntimeError& e) {
+    throw ScriptError("can not read " + args[0] + ": " + e.what());
   }
 }
 
@@ -55,8 +77,8 @@ std::string pixel_text(const raster::Surface& surface, int x, int y) {
 
 std::vector<Command> asking_commands() {
   return {
-      {"dump", 2, 2, true, dump},  {"pixel", 3, 3, true, pixel}, {"get", 1, -1, false, get},
-      {"call", 1, -1, true, call}, {"log", 1, 1, false, log},
+      {"dump", 2, 2, false, dump}, {"clip", 1, 2, false, clip}, {"pixel", 3, 3, true, pixel},
+      {"get", 1, -1, false, get},  {"call", 1, -1, true, call}, {"log", 1, 1, false, log},
   };
 }
 

@@ -35,12 +35,19 @@ class Desktop {
   // Size of a text in pixels in that font, its lines broken where they get wider than wrap; 0: nowhere. Without a
   // display: half the font's height a byte.
   virtual void text_size(const std::string& text, const Font& font, int wrap, int& width, int& height);
+  // The clipboard's picture; false if it holds none. Without a display the program has a clipboard of its own.
+  virtual bool read_clipboard(raster::Surface& picture);
+  virtual void write_clipboard(const raster::Surface& picture);
+  virtual void clear_clipboard();
 
   raster::PngDecoder png = nullptr;  // reads PNG inside of icons, where the display can
 
   int screen_w = 1280, screen_h = 1024;  // pixels
   int depth = 32;                        // bits a pixel of the display and of every surface
   int frame_w = 0, frame_h = 0;          // pixels that a window's frame adds to its inside
+
+ private:
+  raster::Surface clipboard_;  // without pixels: no picture
 };
 
 // Never null. Giving null brings back the display that nobody looks at.

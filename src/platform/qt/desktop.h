@@ -31,6 +31,9 @@ class QtDesktop : public forms::Desktop {
   void pointer_button(bool down) override;
   bool has_focus(const forms::Window& window) override;
   void text_size(const std::string& text, const forms::Font& font, int wrap, int& width, int& height) override;
+  bool read_clipboard(raster::Surface& picture) override;
+  void write_clipboard(const raster::Surface& picture) override;
+  void clear_clipboard() override;
 
   // Runs start as the first event, and then events until the program has ended. The exit status of the process.
   int run(void (*start)(const std::string& command_line), const std::string& command_line);

@@ -1,11 +1,10 @@
 #include "platform/qt/images.h"
 
-#include <QImage>
-#include <QPainter>
 #include <QSaveFile>
 #include <cstring>
 
 #include "platform/error.h"
+#include "platform/qt/surface_image.h"
 #include "platform/raster/draw.h"
 
 namespace qt {
@@ -39,13 +38,9 @@ raster::Surface load_any_picture(const std::string& path) {
   } catch (const RuntimeError& e) {
     if (e.number != 481) throw;
   }
-  const QImage read(QString::fromStdString(path));
-  if (read.isNull() || read.width() > raster::MAX_SIDE || read.height() > raster::MAX_SIDE) throw RuntimeError(481);
-  raster::Surface surface(read.width(), read.height());
-  QImage shown(surface.row(0), surface.width(), surface.height(), static_cast<qsizetype>(surface.stride()),
-               QImage::Format_RGB32);
-  QPainter(&shown).drawImage(0, 0, read);
-  return surface;
+  raster::Surface picture;
+  if (!picture_from_image(QImage(QString::fromStdString(path)), picture)) throw RuntimeError(481);
+  return picture;
 }
 
 }  // namespace qt
