@@ -1,5 +1,6 @@
 // Moves of the pointer, from event procedure in to out, on a view of 1920 x 1080.
 #include <array>
+#include <cmath>
 #include <random>
 
 #include "editor.h"
@@ -77,6 +78,55 @@ std::vector<Place> far_corners() {
   return out;
 }
 
+// An area of 1000 x 1000 that floats: at x1 lifted by a drag, at x8 in blocks, or cut out as a ring of 256 vertices,
+// whose rectangle is composed anew at each move.
+void lift_area(int tool, float side) {
+  select_tool(tool, 1);
+  press(0, 0);
+  move(side, side, 1);
+  release(side, side);
+}
+
+void cut_ring() {
+  constexpr double MIDDLE = 500, TURN = 6.283185307179586;
+  const auto vertex = [](int i) {
+    const double radius = i % 2 == 0 ? MIDDLE : MIDDLE - 20;
+    return Place{static_cast<float>(std::lround(MIDDLE + radius * std::cos(TURN * i / 256))),
+                 static_cast<float>(std::lround(MIDDLE + radius * std::sin(TURN * i / 256)))};
+  };
+  select_tool(28, 1);
+  press(vertex(0).x, vertex(0).y);
+  move(vertex(1).x, vertex(1).y, 1);
+  release(vertex(1).x, vertex(1).y);
+  for (int i = 2; i <= 256; ++i) {  // the last one twice
+    const Place p = vertex(std::min(i, 255));
+    press(p.x, p.y);
+    release(p.x, p.y);
+  }
+}
+
+struct Floating {
+  const char* name;
+  const char* work;
+  int rate;
+  void (*lift)();
+};
+constexpr Floating FLOATING[] = {
+    {"float_area1", "an area of 1000 x 1000 that floats, a move", 1, [] { lift_area(20000, 999); }},
+    {"float_area8", "the same at x8", 8, [] { lift_area(11100, 999); }},
+    {"float_polygon1", "a polygon of that size and 256 vertices", 1, cut_ring},
+};
+
+double floating_moves(const Floating& floating, const std::vector<Place>& places) {
+  show(pictures().picture, floating.rate);
+  floating.lift();
+  const double time = timed([&] {
+    for (const Place& p : places) move(p.x, p.y, 0);
+  });
+  select_tool(0, 1);
+  return time;
+}
+
 }  // namespace
 
 void add_tool_rows(Rows& rows) {
@@ -103,6 +153,13 @@ void add_tool_rows(Rows& rows) {
                   [] { return rubber_moves(RUBBERS[5], far_corners()); },
                   {{3, "ms"}},
                   RUBBER_MOVES});
+  for (const Floating& f : FLOATING) {
+    rows.push_back({f.name,
+                    f.work,
+                    [&f] { return floating_moves(f, random_places()); },
+                    {{2, "ms"}, {0, "allocations"}},
+                    RUBBER_MOVES});
+  }
 }
 
 }  // namespace bench

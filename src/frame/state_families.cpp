@@ -26,6 +26,9 @@ constexpr Family FAMILIES[] = {
     {{29, 5029, 6029, 7029}, BY_ALL_BUT_FIT, BY_NOT_UNDO, true},
     {{31, 5031, 1031, 2031}, BY_RIGHT | BY_BLANK, 0, false},
     {{11029, 12029, 13029}, BY_SCROLL | BY_BLANK | BY_UNDO | BY_FIT, BY_SCROLL, true},
+    // Of the copies of an area only the stamp falls: one that floats outlives all of this.
+    {{20000, 20002}, BY_RIGHT | BY_BLANK, 0, true},
+    {{11100, 11102}, BY_RIGHT | BY_BLANK, 0, true},
 };
 
 }  // namespace

@@ -223,21 +223,6 @@ void snapped_box(const Array<int32_t, 1, 4>& r, Colour colour) {
   Line(DRAW, r(1), r(2), r(3), r(4), colour, LineForm::box_fill);
 }
 
-// From the block of the press to that of the pointer, both inside on either side.
-void snap_to_pointer(float X, float Y) {
-  int l = 0;
-  int t = 0;
-  int r = 0;
-  int b = 0;
-  DOT_SNAP(X, Y, 1, l, t, r, b);
-  const bool right = X >= static_cast<float>(PT_START(1));
-  const bool below = Y >= static_cast<float>(PT_START(2));
-  RECT_OLD(1) = right ? RECT_NEW(1) : l;
-  RECT_OLD(3) = right ? r : RECT_NEW(3);
-  RECT_OLD(2) = below ? RECT_NEW(2) : t;
-  RECT_OLD(4) = below ? b : RECT_NEW(4);
-}
-
 }  // namespace
 
 void WORK_TO_VIEW(int x1, int y1, int x2, int y2) {
@@ -259,6 +244,20 @@ void snap_press(float X, float Y) {
   DRAW.DrawMode(XOR);
   DRAW.DrawWidth(1);
   snapped_box(RECT_OLD, COL_XOR);
+}
+
+void snap_to_pointer(float X, float Y) {
+  int l = 0;
+  int t = 0;
+  int r = 0;
+  int b = 0;
+  DOT_SNAP(X, Y, 1, l, t, r, b);
+  const bool right = X >= static_cast<float>(PT_START(1));
+  const bool below = Y >= static_cast<float>(PT_START(2));
+  RECT_OLD(1) = right ? RECT_NEW(1) : l;
+  RECT_OLD(3) = right ? r : RECT_NEW(3);
+  RECT_OLD(2) = below ? RECT_NEW(2) : t;
+  RECT_OLD(4) = below ? b : RECT_NEW(4);
 }
 
 void snap_drag(float X, float Y) {

@@ -1,4 +1,5 @@
-// Polygon, Line(Type2) and Bezier Line: tools of several clicks. Vertices are DRAW pixels.
+// Polygon, Line(Type2) and Bezier Line: tools of several clicks. Vertices are DRAW pixels. Polygon Copy
+// (polygon_copy.cpp) collects its vertices here too.
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
 #include "tools/tools.h"
@@ -108,7 +109,8 @@ void paint_segment(Point to) {
 }  // namespace
 
 // --- Polygon. The rubber lines of the placed edges stay; the fill covers them. The first edge's has the width of the
-// pen, and what of it the fill does not cover stays too.
+// pen, and what of it the fill does not cover stays too. The states of both polygon tools are their number and as many
+// thousands.
 
 void polygon_press(float /*X*/, float /*Y*/) {
   DRAW.DrawMode(XOR);
@@ -119,7 +121,7 @@ void polygon_press(float /*X*/, float /*Y*/) {
 void polygon_release(float X, float Y) {
   line_drag(X, Y);
   begin_chain(X, Y);
-  CUR_TOOL = 5027;
+  CUR_TOOL = to_int16(CUR_TOOL + 5000);
 }
 
 void polygon_hover(float X, float Y) {
@@ -127,23 +129,30 @@ void polygon_hover(float X, float Y) {
   hover_to(at(X, Y));
 }
 
-void polygon_next(float X, float Y) {
+bool on_last_vertex(float X, float Y) { return same(at(X, Y), last_vertex()); }
+
+bool polygon_takes_vertex(float X, float Y) {
   const Point p = at(X, Y);
   if (!same(p, rubber_end)) take_rubber_away();  // no move has led up to this press
-  if (same(p, last_vertex())) {
-    fill_polygon();
-    CUR_TOOL = 7027;
-  } else if (POLY_N > LAST_PLACE) {
+  if (on_last_vertex(X, Y)) return false;
+  if (POLY_N > LAST_PLACE) {
     drop_chain();
-    CUR_TOOL = 7027;
+    CUR_TOOL = to_int16(CUR_TOOL + 2000);
   } else {
     append(p);
-    CUR_TOOL = 6027;
+    CUR_TOOL = to_int16(CUR_TOOL + 1000);
   }
+  return true;
+}
+
+void polygon_next(float X, float Y) {
+  if (polygon_takes_vertex(X, Y)) return;
+  fill_polygon();
+  CUR_TOOL = 7027;
 }
 
 void polygon_double_click(float X, float Y) {
-  if (!same(at(X, Y), last_vertex())) return;
+  if (!on_last_vertex(X, Y)) return;
   fill_polygon();
   commit_by_double_click(27);
 }
@@ -190,7 +199,7 @@ void chain_next(float X, float Y) {
 
 // Elsewhere than on the last vertex it is one more press, whose release goes back to 5029.
 void chain_double_click(float X, float Y) {
-  const bool closes = same(at(X, Y), last_vertex());
+  const bool closes = on_last_vertex(X, Y);
   chain_next(X, Y);
   if (closes) {
     commit_by_double_click(29);

@@ -28,8 +28,6 @@ void toggle_palettes() {
 
 // The right button during a stroke. PREVIEW_ON stays as it is until the next VIEW_FIT.
 void cancel_stroke() {
-  if (CUR_TOOL == 20002) CUR_TOOL = 20000;
-  if (CUR_TOOL == 11102) CUR_TOOL = 11100;
   p_win::show_info(" ");
   Timer1.Interval(0);
   PEN_DOWN = 0;

@@ -42,6 +42,10 @@ void circlefill_release(float X, float Y);
 void polygon_press(float X, float Y);
 void polygon_release(float X, float Y);
 void polygon_hover(float X, float Y);
+// A press on a polygon under way: the vertex is taken, or the polygon that is too long is dropped. False on the last
+// vertex, which closes the shape.
+bool polygon_takes_vertex(float X, float Y);
+bool on_last_vertex(float X, float Y);
 void polygon_next(float X, float Y);
 void polygon_double_click(float X, float Y);
 void chain_press(float X, float Y);
@@ -59,11 +63,29 @@ void bezier_press(float X, float Y);
 void paint_a(float X, float Y);
 void paint_b(float X, float Y);
 
+// areas.cpp: a part of the view floats on WORK and is stamped
+void area_copy_release(float X, float Y);
+void area_hover(float X, float Y);
+void area_stamp(float X, float Y);
+void block_copy_release(float X, float Y);
+void block_copy_hover(float X, float Y);
+void block_copy_stamp(float X, float Y);
+// What floats lands on DRAW, w x h pixels of it with the top left at that place, and floats no longer.
+void stamp_work(double left, double top, int w, int h);
+
+// polygon_copy.cpp
+void polygon_copy_next(float X, float Y);
+void polygon_copy_close(float X, float Y);
+void polygon_copy_hover(float X, float Y);
+void polygon_copy_stamp(float X, float Y);
+
 // block_shapes.cpp: at expansion
 // WORK's rectangle, in picture pixels relative to the view and widened by the pen, goes through M_REDRAW to DRAW.
 void WORK_TO_VIEW(int x1, int y1, int x2, int y2);
 void snap_press(float X, float Y);
 void snap_drag(float X, float Y);
+// RECT_OLD goes from the block of the press to that of the pointer, both inside on either side.
+void snap_to_pointer(float X, float Y);
 void snap_erase();
 void block_boxfill_release(float X, float Y);
 void block_box_press(float X, float Y);

@@ -74,4 +74,17 @@ inline void repaint() {
   forms::enter([] { VIEW_FIT(); });
 }  // as after a change of the window's size
 
+// --- floating areas
+inline void drag_area(int tool, float x1, float y1, float x2, float y2) {
+  select_tool(tool);
+  press(x1, y1);
+  drag(x2, y2);
+  release(x2, y2);
+}
+inline void expect_work_at(double left, double top) {
+  EXPECT_TRUE(WORK.Visible());
+  EXPECT_EQ(WORK.Left(), left);
+  EXPECT_EQ(WORK.Top(), top);
+}
+
 }  // namespace stage
