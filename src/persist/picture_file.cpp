@@ -61,9 +61,8 @@ std::optional<RuntimeError> failure_of(auto step) {
   return std::nullopt;
 }
 
-void show_palettes_and_remove(const std::string& temp) {
+void show_wanted_palettes() {
   if (PAL_SHOWN == 1) PAL_SHOW();
-  ignore_errors([&] { text::Kill(temp); });
 }
 
 // PIC_FILE into PIC, through the temporary file. False if the add-in is not known: the palettes stay hidden then.
@@ -74,12 +73,14 @@ bool load_by_addin(int reader, const std::string& temp) {
   run_addin(exe, FR_CMD(reader), temp);
   const auto failure = failure_of([&] { PIC.Picture(LoadPicture(temp)); });
   P_WIN.Enabled(true);
-  show_palettes_and_remove(temp);
+  show_wanted_palettes();
+  ignore_errors([&] { text::Kill(temp); });
   if (failure) throw RuntimeError(*failure);
   return true;
 }
 
-// False if the add-in is not known, can not be started, or has not made the file.
+// False if the add-in is not known, can not be started, or has not made the file. A writer that has taken the temporary
+// file away says by that that it failed: error 53.
 bool save_by_addin(int writer, const std::string& name) {
   std::string exe;
   if (!find_program(FW_ID(writer), exe)) return false;
@@ -89,8 +90,9 @@ bool save_by_addin(int writer, const std::string& name) {
   PIC_FILE = name;
   // Without the picture a writer could only do harm to the target.
   const bool ran = !failure && run_addin(exe, FW_CMD(writer), temp);
-  show_palettes_and_remove(temp);
+  show_wanted_palettes();
   if (failure) throw RuntimeError(*failure);
+  text::Kill(temp);
   return ran && !text::Dir(name).empty();
 }
 

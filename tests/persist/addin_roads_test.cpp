@@ -288,6 +288,16 @@ TEST_F(Roads, SaveIsNotDoneIfTheWriterIsMissingOrMakesNothing) {
   EXPECT_EQ(left_behind(), 0);
 }
 
+TEST_F(Roads, AWriterSaysThatItFailedByTakingTheTemporaryFileAway) {
+  const std::string name = in_home("out.gif");
+  put(name, "old");
+  write_addin("copy-out", "rm \"$temp\"");
+  EXPECT_FALSE(save(name));
+  EXPECT_EQ(boxes(), name + "\rパス又はファイル名が不正です　SAVEできません\r正しく入力し直してください。\n");
+  EXPECT_EQ(bytes_of(name), "old");
+  EXPECT_TRUE(CMD_WIN.Visible());
+}
+
 TEST_F(Roads, AFullDiskIsToldAndTheTargetIsLeftAlone) {
   const std::string name = in_home("out.gif");
   put(name, "old");
