@@ -339,6 +339,28 @@ TEST_F(Roads, PalettesAndAutoSaveAreOffWhileAnAddInRuns) {
   }
 }
 
+// The user closes the program while an add-in runs.
+struct Closing : StageDesktop {
+  void do_events() override {
+    if (!forms::has_ended()) forms::enter([] { P_WIN.Unload(); });
+  }
+};
+
+TEST_F(Roads, TheProgramEndsOverARunningAddIn) {
+  Closing closing;
+  closing.answers = {6};
+  forms::use_desktop(&closing);
+  write_addin("copy-in", "sleep 0.5");
+  const std::string name = foreign("a.gif");
+  int result = 0;
+  EXPECT_FALSE(forms::enter([&] { LOAD_PICTURE(name, result); }));
+  EXPECT_TRUE(forms::has_ended());
+  EXPECT_EQ(forms::fatal_error(), 0);
+  EXPECT_EQ(closing.boxes.size(), 1U);
+  EXPECT_TRUE(std::filesystem::exists(in_home("KISO.CNF")));
+  forms::use_desktop(&desk());
+}
+
 TEST(CommandLine, APictureOfAForeignKindComesUpWithThePalettesWhereTheSettingsSay) {
   write_addin("copy-in", "cp -- \"$name\" \"$temp\"");
   put(in_home("KISO.AIN"), "ADIN,IN," + in_home("copy-in") + ",n,0\r\nFFRD,IN,%FN %ON,,GIF\r\n[EOF]\r\n");
