@@ -185,6 +185,7 @@ void Label::back_to_design() {
   font_ = Font{};
   auto_size_ = false;
   transparent = true;
+  border = false;
   align = Align::left;
 }
 

@@ -140,6 +140,8 @@ class Label : public Control, public PointerEvents {
   void font(Font f);
   // --- for the design
   bool transparent = true;
+  bool border = false;  // a thin frame, with BORDER pixels from it to the text
+  static constexpr int BORDER = 4;
   enum class Align : uint8_t { left, right, centre } align = Align::left;  // centre: of its height too
 
  protected:

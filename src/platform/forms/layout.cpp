@@ -13,7 +13,7 @@ namespace {
 using Row = std::vector<const Cell*>;
 
 constexpr int INSET = 10;       // from a frame's or page's edge to what stands in it
-constexpr int FRAME_EDGE = 8;   // a frame's own line and the room under its title
+constexpr int FRAME_EDGE = 13;  // a frame's own line and the room under its title
 constexpr int MARK = 26;        // of an option or a check box, with the room between it and the text
 constexpr int OPTION_ROOM = 6;  // above and below the text of an option, together
 constexpr int BUTTON_ROOM = 12, BUTTON_SIDES = 24, BUTTON_LEAST = 76;
@@ -80,12 +80,29 @@ int height_of(std::span<const Cell> cells, const Cell& cell, int width) {
     case Kind::picture: return arrange(cells, &c, top_of(c), width);
     case Kind::button: return button_height();
     case Kind::list_box: return cell.lines * (text_height("") + LINE_ROOM) + LIST_EDGE;
-    case Kind::label: return std::max(text_height(caption_of(c), width), cell.lines * text_height(""));
+    case Kind::label: {
+      const int edges = static_cast<const Label&>(c).border ? 2 * Label::BORDER : 0;
+      return std::max(text_height(caption_of(c), width - edges), cell.lines * text_height("")) + edges;
+    }
     default: return text_height("") + OPTION_ROOM;
   }
 }
 
-int gap_below(const Row& row) { return row[0]->control->kind == Kind::option_button ? 2 : BETWEEN; }
+// A text of several lines is made as narrow as it can be without one more, so that no single letter stands in the last.
+int evened_width(const Control& c, int width) {
+  if (c.kind != Kind::label || static_cast<const Label&>(c).border) return width;
+  const std::string& text = caption_of(c);
+  const int height = text_height(text, width);
+  if (height == text_height(text)) return width;
+  while (text_height(text, width - 1) == height) --width;
+  return width;
+}
+
+// Options of a group stand close together.
+int gap_between(const Row& above, const Row& below) {
+  const bool options = above[0]->control->kind == Kind::option_button && below[0]->control->kind == Kind::option_button;
+  return options ? 2 : BETWEEN;
+}
 
 }  // namespace
 
@@ -126,7 +143,9 @@ int arrange(std::span<const Cell> cells, Control* in, int top, int width) {
   const std::vector<int> columns = columns_of(cells, rows);
   const int right = width - side_of(in);
   int bottom = top;
-  for (const Row& row : rows) {
+  for (size_t r = 0; r < rows.size(); ++r) {
+    const Row& row = rows[r];
+    if (r > 0) top = bottom + gap_between(rows[r - 1], row);
     int left = side_of(in);
     int row_height = 0;
     for (size_t i = 0; i < row.size(); ++i) {
@@ -135,12 +154,11 @@ int arrange(std::span<const Cell> cells, Control* in, int top, int width) {
                     : row.size() == 1                   ? needed(cells, *row[i])
                                                         : columns[i];
       const int h = height_of(cells, *row[i], w);
-      row[i]->control->design(left, top, w, h, in);
+      row[i]->control->design(left, top, evened_width(*row[i]->control, w), h, in);
       row_height = std::max(row_height, h);
       left += w + BETWEEN;
     }
     bottom = top + row_height;
-    top = bottom + gap_below(row);
   }
   return bottom + side_of(in);
 }

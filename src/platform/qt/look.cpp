@@ -57,6 +57,8 @@ QColor colour_of(uint32_t colour) {
   return QColor(static_cast<int>(c & 0xFF), static_cast<int>(c >> 8 & 0xFF), static_cast<int>(c >> 16 & 0xFF));
 }
 
+QColor border_colour() { return {160, 160, 160}; }
+
 QPalette light_palette() {
   QPalette p(colour_of(0x8000000F), colour_of(0x8000000F));
   p.setColor(QPalette::Base, colour_of(0x80000005));

@@ -24,6 +24,7 @@ QString caption(const std::string& text);
 QFont font_of(const forms::Font& font);
 QColor colour_of(uint32_t colour);  // system colours too
 QPalette light_palette();
+QColor border_colour();  // of what has a border
 
 const forms::Sheet* find_sheet(const char* name);  // null if there is none of that name
 QImage picture_of(const forms::Sheet& sheet);      // without a copy

@@ -63,7 +63,7 @@ void PicturePeer::paint(const QPaintEvent& event) {
     for (const QRect& r : event.region() & inside & pixels) p.drawImage(r, image, r.translated(-inside.topLeft()));
   }
   if (!box_.border) return;
-  p.setPen(QColor(160, 160, 160));
+  p.setPen(border_colour());
   p.drawRect(widget()->rect().adjusted(0, 0, -1, -1));
 }
 

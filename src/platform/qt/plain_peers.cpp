@@ -83,7 +83,11 @@ class LabelPeer final : public PointedPeer<forms::Label> {
                                                                    : Qt::AlignCenter;
     const int wrap = model_.AutoSize() ? 0 : Qt::TextWordWrap;
     p.setPen(colour_of(model_.is_enabled() ? model_.ForeColor() : 0x808080));
-    p.drawText(all, align | wrap, to_qt(model_.Caption()));
+    const int inset = model_.border ? forms::Label::BORDER : 0;
+    p.drawText(all.adjusted(inset, inset, -inset, -inset), align | wrap, to_qt(model_.Caption()));
+    if (!model_.border) return;
+    p.setPen(border_colour());
+    p.drawRect(all.adjusted(0, 0, -1, -1));
   }
 
  private:
