@@ -31,6 +31,15 @@ void draw_pattern() {
   }
 }
 
+// Where a widget paints itself.
+struct Watch : QObject {
+  QRegion painted;
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+};
+
 class Pictures : public Display {
  protected:
   void show_main() {
@@ -87,14 +96,7 @@ TEST_F(Pictures, OverlayStandsAboveTheViewUntilItIsHidden) {
 }
 
 TEST_F(Pictures, OnlyWhatWasDrawnOnIsPainted) {
-  class Watch : public QObject {
-   public:
-    QRegion painted;
-    bool eventFilter(QObject*, QEvent* event) override {
-      if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();
-      return false;
-    }
-  } watch;
+  Watch watch;
   show_main();
   settle();
   widget(P.DRAW)->installEventFilter(&watch);
@@ -103,6 +105,27 @@ TEST_F(Pictures, OnlyWhatWasDrawnOnIsPainted) {
   const QRect r = watch.painted.boundingRect();
   EXPECT_TRUE(r.contains(QRect(20, 30, 20, 5)));
   EXPECT_TRUE(QRect(18, 28, 25, 10).contains(r)) << r.x() << " " << r.y() << " " << r.width() << " " << r.height();
+}
+
+TEST_F(Pictures, ABoxThatFloatsIsPaintedInItsNewPlaceAndWhatWasUnderItInTheOld) {
+  show_main();
+  logic([] {
+    draw_pattern();
+    P.WORK.BackColor(QBColor(12));
+    P.WORK.Move(20, 20, 50, 40);
+    P.WORK.Visible(true);
+  });
+  settle();
+  Watch under;
+  widget(P.DRAW)->installEventFilter(&under);
+  logic([] { P.WORK.Move(27, 25); });
+  settle();
+  EXPECT_EQ(under.painted, QRegion(20, 20, 50, 40) - QRegion(27, 25, 50, 40));
+  const QImage seen = look_at(widget(P.DRAW));
+  EXPECT_EQ(seen.pixelColor(26, 30), colour(pattern(26, 30)));
+  EXPECT_EQ(seen.pixelColor(27, 25), Qt::red);
+  EXPECT_EQ(seen.pixelColor(76, 64), Qt::red);
+  EXPECT_EQ(seen.pixelColor(77, 64), colour(pattern(77, 64)));
 }
 
 TEST_F(Pictures, WithoutAutoRedrawTheScreenIsShownAndTheImageComesBack) {
