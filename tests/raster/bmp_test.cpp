@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <random>
 
 #include "platform/raster/bmp_pack.h"
@@ -17,8 +16,12 @@ const std::vector<uint32_t> FOUR_COLOURS = {K, R, G, B};
 
 DibFile two_by_two() { return {.width = 2, .height = 2, .pixels = TWO_BY_TWO}; }
 
-// The bits of a value that a field of n bits can hold, spread over 0 to 255.
-uint32_t spread(uint32_t value, uint32_t full) { return static_cast<uint32_t>(std::lround(value * 255.0 / full)); }
+// Eight bits of a field of this width: its own from the top, over and over.
+uint32_t spread(uint32_t value, uint32_t width) {
+  uint32_t byte = 0;
+  for (uint32_t i = 0; i < 8; ++i) byte |= (value >> (width - 1 - i % width) & 1) << (7 - i);
+  return byte;
+}
 
 // One pixel of 16 or 32 bits.
 uint32_t pixel_of(uint32_t bits, uint32_t value, const std::vector<uint32_t>& masks) {
@@ -126,10 +129,21 @@ TEST(BmpRead, SixteenBitsAreFiveEachUnlessMasksSayOtherwise) {
   EXPECT_EQ(pixel_of(16, 0x7C00, {}), R);
   EXPECT_EQ(pixel_of(16, 0x03E0, {}), G);
   EXPECT_EQ(pixel_of(16, 0x001F, {}), B);
-  EXPECT_EQ(pixel_of(16, 1 << 10 | 2 << 5 | 16, {}), 0x081084u);  // 255/31 = 8.2, 510/31 = 16.45, 16*255/31 = 131.6
+  EXPECT_EQ(pixel_of(16, 1 << 10 | 2 << 5 | 16, {}), 0x081084u);  // 00001 000, 00010 000, 10000 100
   EXPECT_EQ(pixel_of(16, 0xFFFF, {0xF800, 0x7E0, 0x1F}), W);
-  EXPECT_EQ(pixel_of(16, 32 << 5, {0xF800, 0x7E0, 0x1F}), 130u << 8);  // 32 * 255 / 63 = 129.5
+  EXPECT_EQ(pixel_of(16, 32 << 5, {0xF800, 0x7E0, 0x1F}), 130u << 8);  // 100000 10
+  EXPECT_EQ(pixel_of(16, 24 << 11 | 48 << 5 | 24, {0xF800, 0x7E0, 0x1F}), 0xC6C3C6u) << "light grey";
   EXPECT_EQ(pixel_of(16, 0x1FFFF, {0x1F800, 0x7E0, 0x1F}), W) << "the part of a mask above 16 bits does not count";
+}
+
+TEST(BmpRead, SixteenBitsOfAFileAreThoseOfASurface) {
+  for (uint32_t value = 0; value < 32; ++value) {
+    const DibFile file{
+        .bits = 16, .pixels = {static_cast<uint8_t>(value), 0, 0, 0}, .compression = 3, .masks = {0xF800, 0x7E0, 0x1F}};
+    const Surface deep = read(file.bmp(), 32);
+    const Surface same = read(file.bmp(), 16);
+    EXPECT_EQ(GetPixel(deep, 0, 0), GetPixel(same, 0, 0)) << value;
+  }
 }
 
 TEST(BmpRead, FieldsOfEveryWidthAreSpreadOverTheWholeRange) {
@@ -138,9 +152,9 @@ TEST(BmpRead, FieldsOfEveryWidthAreSpreadOverTheWholeRange) {
       const uint32_t full = width == 32 ? 0xFFFFFFFF : (1u << width) - 1;
       for (uint32_t value : {0u, 1u, full / 3, full / 2, full - 1, full}) {
         const uint32_t mask = full << shift;
-        EXPECT_EQ(pixel_of(32, value << shift | ~mask, {mask, 0, 0}), spread(value, full) << 16)
+        EXPECT_EQ(pixel_of(32, value << shift | ~mask, {mask, 0, 0}), spread(value, width) << 16)
             << width << ' ' << value;
-        EXPECT_EQ(pixel_of(32, value << shift | ~mask, {0, mask, mask}), spread(value, full) * 0x101) << width;
+        EXPECT_EQ(pixel_of(32, value << shift | ~mask, {0, mask, mask}), spread(value, width) * 0x101) << width;
       }
     }
   }

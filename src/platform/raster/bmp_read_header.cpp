@@ -16,8 +16,13 @@ Field::Field(uint32_t mask) : mask_(mask) {
   }
 }
 
+// A short field is filled up with its own upper bits, as a surface of 16 bits shows its pixels; a long one is cut.
 uint32_t Field::scale(uint32_t value) const {
-  return static_cast<uint32_t>((value * uint64_t{510} + full_) / (2 * uint64_t{full_}));
+  const int bits = std::bit_width(full_);
+  if (bits > 8) return value >> (bits - 8);
+  uint32_t scaled = value << (8 - bits);
+  for (int filled = bits; filled < 8; filled *= 2) scaled |= scaled >> filled;
+  return scaled;
 }
 
 namespace {
