@@ -261,6 +261,8 @@ void bezier_release(float X, float Y) {
   rubber_width = DRAW.DrawWidth();
   BEZ_P0(1) = PT_START(1);
   BEZ_P0(2) = PT_START(2);
+  BEZ_P3(1) = to_int32(X);
+  BEZ_P3(2) = to_int32(Y);
   if (!same(at(X, Y), start())) {
     end_point(at(X, Y));
     return;

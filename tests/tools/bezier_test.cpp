@@ -37,6 +37,20 @@ TEST(Bezier, IsBentByThePointerAndPaintedByAPress) {
   EXPECT_EQ(UNDO_READY, 1);
 }
 
+TEST(Bezier, AfterAClickBothEndsAreThere) {
+  stage::stage(plain(12, 7));
+  ends(2, 1, 10, 1);  // an end that the click has to take the place of
+  press(6, 7);
+  release(6, 7);
+  press(4, 3);
+  release(4, 3);
+  EXPECT_EQ(CUR_TOOL, 5031);
+  EXPECT_EQ(BEZ_P0(1), 4);
+  EXPECT_EQ(BEZ_P0(2), 3);
+  EXPECT_EQ(BEZ_P3(1), 4);
+  EXPECT_EQ(BEZ_P3(2), 3);
+}
+
 TEST(Bezier, RubberCurveIsInverted) {
   stage::stage(plain(12, 7, 'y'));
   target_colour('r');
