@@ -77,8 +77,8 @@ std::string pixel_text(const raster::Surface& surface, int x, int y) {
 
 std::vector<Command> asking_commands() {
   return {
-      {"dump", 2, 2, false, dump}, {"clip", 1, 2, false, clip}, {"pixel", 3, 3, true, pixel},
-      {"get", 1, -1, false, get},  {"call", 1, -1, true, call}, {"log", 1, 1, false, log},
+      {"dump", 2, 2, false, dump}, {"clip", 1, 2, false, clip},  {"pixel", 3, 3, true, pixel},
+      {"get", 1, -1, false, get},  {"call", 1, -1, false, call}, {"log", 1, 1, false, log},
   };
 }
 

@@ -232,7 +232,7 @@ std::vector<Command> expect_commands() {
       {"expect-bytes", 2, 2, false, of_files<expect_bytes>},
       {"expect-line", 3, 3, false, of_files<expect_line>},
       {"expect-lines", 2, 2, false, of_files<expect_lines>},
-      {"expect-call", 2, -1, true, expect_call},
+      {"expect-call", 2, -1, false, expect_call},
       {"expect-log", 2, 2, false, expect_log},
       {"expect-entry", 3, 3, false, expect_entry},
   };

@@ -188,7 +188,7 @@ constexpr VariableRow VARIABLES[] = {
     PLAIN(AREA_DY),
     PLAIN(AREA_W),
     PLAIN(AREA_H),
-    // fields of CMD_WIN; the pressed button of a group bears the group's name
+    // fields of CMD_WIN, with or without the window's name; the pressed button of a group bears the group's name
     FIELD(CMD_WIN, CMD_B, CMD_B_pressed),
     FIELD(CMD_WIN, EDIT_B, EDIT_B_pressed),
     FIELD(CMD_WIN, EXP_M1, EXP_M1_pressed),
@@ -218,7 +218,8 @@ struct Cases : F... {
 
 const VariableRow* find_variable(std::string_view name, int indices) {
   for (const VariableRow& row : VARIABLES) {
-    if (row.name == name && row.indices == indices) return &row;
+    const bool named = row.name == name || row.name.substr(row.name.find('.') + 1) == name;
+    if (named && row.indices == indices) return &row;
   }
   return nullptr;
 }
