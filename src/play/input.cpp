@@ -79,6 +79,7 @@ void down(const Args& args) {
   Pointing p = read_pointing(args);
   if (p.button == 0) p.button = 1;
   if (!let_in(p.control, args[0])) return;
+  p.control.window.came_forward();
   point_at(p);
   player.held |= p.button;
   if (PointerEvents* events = pointer_events(p.control)) {
@@ -127,6 +128,7 @@ void click(const Args& args) {
   const int button = args.size() > 1 && args[1] == "right" ? 2 : 1;
   if (args.size() > 1 && args[1] != "right" && args[1] != "left") throw ScriptError("unknown word " + args[1]);
   if (!let_in(c, args[0])) return;
+  c.window.came_forward();
   const auto x = static_cast<float>(static_cast<int>(c.width_px() / 2));
   const auto y = static_cast<float>(static_cast<int>(c.height_px() / 2));
   if (PointerEvents* events = pointer_events(c)) {

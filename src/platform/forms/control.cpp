@@ -105,6 +105,7 @@ void Control::MouseIcon(const char* cursor_sheet) {
 
 void Control::SetFocus() {
   touched();
+  window.came_forward();
   flush();
   if (peer) peer->take_focus();
 }

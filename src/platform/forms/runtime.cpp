@@ -39,6 +39,8 @@ void Desktop::text_size(const std::string& text, const Font& font, int wrap, int
   width = wrap;
 }
 
+bool Desktop::has_focus(const Window& window) { return Window::foremost() == &window; }
+
 std::string Desktop::clock() {
   const std::time_t now = std::time(nullptr);
   std::tm local{};

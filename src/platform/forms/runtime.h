@@ -29,7 +29,7 @@ class Desktop {
   // follow enter later, where those of a real pointer enter.
   virtual void pointer_move(int /*dx*/, int /*dy*/) {}
   virtual void pointer_button(bool /*down*/) {}
-  virtual bool has_focus(const Window& /*window*/) { return false; }
+  virtual bool has_focus(const Window& window);  // without a display: the window that came forward last
   // What a script that drives the program may ask for later: texts of the start window, calls of the progress bar.
   virtual void record(const char* /*kind*/, const std::string& /*entry*/) {}
   // Size of a text in pixels in that font, its lines broken where they get wider than wrap; 0: nowhere. Without a

@@ -7,7 +7,17 @@
 
 namespace forms {
 
+namespace {
+Window* in_front = nullptr;
+}
+
 void throw_subscript() { throw RuntimeError(9); }
+
+const Window* Window::foremost() { return in_front; }
+void Window::came_forward() { in_front = this; }
+void Window::went() {
+  if (in_front == this) in_front = owner_ && owner_->visible_ ? owner_ : nullptr;
+}
 
 Window::Window(const char* name_, Border border_, Scale scale_, void (*design)())
     : name(name_), border(border_), scale(scale_), design_(design) {
@@ -42,6 +52,7 @@ bool Window::Unload() {
 void Window::drop() {
   for (auto c = controls_.rbegin(); c != controls_.rend(); ++c) (*c)->back_to_design();
   peer.reset();
+  went();
   loaded_ = visible_ = was_shown_ = false;
   enabled_ = true;
   owner_ = nullptr;
@@ -152,6 +163,7 @@ void Window::Show(Window* owner) {
   touched();
   owner_ = owner;
   visible_ = true;
+  came_forward();
   note(VISIBLE);
   if (was_shown_) return;
   was_shown_ = true;
@@ -160,6 +172,7 @@ void Window::Show(Window* owner) {
 
 void Window::Hide() {
   touched().visible_ = false;
+  went();
   note(VISIBLE);
 }
 
@@ -171,6 +184,7 @@ void Window::Refresh() {
 
 void Window::SetFocus() {
   touched();
+  came_forward();
   flush();
   if (peer) peer->take_focus();
 }

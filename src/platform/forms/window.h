@@ -223,6 +223,8 @@ class Window {
   void inside(int w, int h);
   void placed(double left, double top) { left_ = left, top_ = top; }  // the display has moved it; twips
   void state_changed(int window_state);                               // the display has minimized it, say
+  void came_forward();                                                // it was shown, given the focus or used last
+  static const Window* foremost();  // the one that came forward last; null if it went and belonged to none
   // What the display's frame adds to the inside, in pixels. A size that the program has asked for holds with its frame,
   // else the inside does.
   void framed(int w, int h);
@@ -240,6 +242,7 @@ class Window {
   const Window& touched() const;
   Window& touched() { return const_cast<Window&>(static_cast<const Window*>(this)->touched()); }
   void note(uint32_t changes);
+  void went();  // hidden or unloaded: its owner comes forward
   void new_inside(int w, int h);
   void fit_to_inside();
   void fit_to_outer();  // fires Form_Resize if the inside is new
