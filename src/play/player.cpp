@@ -48,6 +48,7 @@ void run_line(const std::vector<Word>& words) {
     player.quoted.push_back(word->quoted);
   }
   command.run(args);
+  fit_maximized();
   if (!player.failure.empty()) throw ScriptError(std::exchange(player.failure, {}));
 }
 

@@ -58,6 +58,8 @@ std::vector<Command> expect_commands();
 
 // Runs the script to its end; the status of the process.
 int run_script(const std::string& path);
+// The display in memory sizes no window by itself: a maximized one fills the screen, and gets its size back after.
+void fit_maximized();
 // Delivers what the keypad has moved and pressed.
 void deliver_keypad();
 

@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <map>
 
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
@@ -121,6 +122,27 @@ void answer(const Args& args) {
 }
 
 }  // namespace
+
+void fit_maximized() {
+  struct Size {
+    int w, h;
+  };
+  static std::map<forms::Window*, Size> before;
+  for (forms::Window* w : forms::all_windows()) {
+    if (!w->Loaded()) before.erase(w);
+    if (!w->Loaded() || !w->is_visible() || w->border != forms::Border::sizable) continue;
+    const auto kept = before.find(w);
+    if (w->WindowState() == 2 && kept == before.end()) {
+      before[w] = {w->inside_w(), w->inside_h()};
+      const forms::Desktop& desktop = forms::desktop();
+      enter([&] { w->inside(desktop.screen_w - w->frame_w(), desktop.screen_h - w->frame_h()); });
+    } else if (w->WindowState() == 0 && kept != before.end()) {
+      const Size size = kept->second;
+      before.erase(kept);
+      enter([&] { w->inside(size.w, size.h); });
+    }
+  }
+}
 
 std::vector<Command> program_commands() {
   return {
