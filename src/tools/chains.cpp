@@ -259,6 +259,7 @@ void end_point(Point p) {
 void bezier_release(float X, float Y) {
   line_erase();
   rubber_width = DRAW.DrawWidth();
+  DRAW.ForeColor(COL_XOR);
   BEZ_P0(1) = PT_START(1);
   BEZ_P0(2) = PT_START(2);
   BEZ_P3(1) = to_int32(X);

@@ -49,6 +49,7 @@ TEST(Bezier, AfterAClickBothEndsAreThere) {
   EXPECT_EQ(BEZ_P0(2), 3);
   EXPECT_EQ(BEZ_P3(1), 4);
   EXPECT_EQ(BEZ_P3(2), 3);
+  EXPECT_EQ(DRAW.ForeColor(), raster::WHITE);  // the rubber pen, though nothing shows yet
 }
 
 TEST(Bezier, RubberCurveIsInverted) {
