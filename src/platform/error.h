@@ -37,6 +37,7 @@ inline const char* error_text(int number) {
     case 460: return "クリップボードの形式が不正です。";
     case 481: return "ピクチャが不正です。";
     case 482: return "プリンタ エラーです。";
+    case 32755: return "[キャンセル] が選択されました。";
     default: return "アプリケーション定義またはオブジェクト定義のエラーです。";
   }
 }

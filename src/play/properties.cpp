@@ -112,6 +112,7 @@ std::string own_property(Control& c, const std::string& property) {
     case Kind::check_box: return read(OF_CHECK, c, property);
     case Kind::frame: return read(OF_FRAME, c, property);
     case Kind::shape: return read(OF_SHAPE, c, property);
+    case Kind::dialog: return NO_PROPERTY;
     case Kind::combo_box: {
       const std::string value = read(OF_COMBO, c, property);
       return value != NO_PROPERTY ? value : read(OF_LIST, c, property);

@@ -99,7 +99,6 @@ DialogWindow::DialogWindow() : Window("DIALOG", Border::dialog, Scale::twips, de
   List1.DblClick = [] { say("List1 double"); };
   OK.Click = [] { say("OK"); };
   Cancel.Click = [] { say("Cancel"); };
-  Form_KeyPress = [](int c) { say("window character " + std::to_string(c)); };
 }
 
 // Windows stand in the order of their construction, and P is the one that owns the others.

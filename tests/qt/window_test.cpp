@@ -140,7 +140,7 @@ TEST_F(Windows, EnterAndEscapePressTheButtonsThatStandForThem) {
   logic([] { DIALOG.OK.Enabled(false), DIALOG.Cancel.Visible(false); });
   key(QEvent::KeyPress, w, Qt::Key_Return, "\r");
   key(QEvent::KeyPress, w, Qt::Key_Escape, "\x1b");
-  EXPECT_EQ(taken(), (Said{"window character 13", "window character 27"}));
+  EXPECT_EQ(taken(), Said{}) << "of one that is off, nothing";
 }
 
 TEST_F(Windows, UncoveringAsksForThePicturesThatAreNotKept) {

@@ -13,6 +13,8 @@
 
 namespace forms {
 
+struct FileDialog;  // dialogs.h
+
 // What a display does for the runtime. This base is a display that nobody looks at: no peers, boxes answered OK.
 class Desktop {
  public:
@@ -35,6 +37,8 @@ class Desktop {
   // Size of a text in pixels in that font, its lines broken where they get wider than wrap; 0: nowhere. Without a
   // display: half the font's height a byte.
   virtual void text_size(const std::string& text, const Font& font, int wrap, int& width, int& height);
+  // Asks for a file by the platform's dialog; false if the user cancels. Without a display the user does.
+  virtual bool file_dialog(FileDialog& dialog);
   // The clipboard's picture; false if it holds none. Without a display the program has a clipboard of its own.
   virtual bool read_clipboard(raster::Surface& picture);
   virtual void write_clipboard(const raster::Surface& picture);

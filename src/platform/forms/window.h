@@ -56,7 +56,8 @@ enum class Kind : uint8_t {
   option_button,
   check_box,
   frame,
-  shape
+  shape,
+  dialog
 };
 
 // The unit in which a container places its controls and tells its inside. Windows themselves stand on the screen in
@@ -209,8 +210,8 @@ class Window {
   bool Focused() const;
 
   Event<> Form_Load, Form_Resize;
-  Event<int&> Form_QueryUnload, Form_Unload;  // the argument set to 1 keeps the window
-  Event<int> Form_KeyPress;                   // Enter and Escape of a dialog, where no button takes them
+  Event<int&> Form_QueryUnload, Form_Unload;         // the argument set to 1 keeps the window
+  Event<const std::vector<std::string>&> Form_Drop;  // files that the user has dropped on it, by their full names
 
   // --- for the runtime, the peers and the player; none of these loads the window
   const std::vector<Control*>& controls() const { return controls_; }

@@ -1,6 +1,8 @@
 #include "platform/qt/application.h"
 
+#include <QLibraryInfo>
 #include <QProxyStyle>
+#include <QTranslator>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -75,6 +77,11 @@ Application::Application(int& argc, char** argv, bool offscreen) {
   QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
   QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
   QApplication::setQuitOnLastWindowClosed(false);
+  // What Qt itself says, in file dialogs above all, it says in the program's language.
+  auto* words = new QTranslator(qApp);  // NOLINT(cppcoreguidelines-owning-memory): the application's child
+  if (words->load("qtbase_ja", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(words);
+  }
   QApplication::setPalette(light_palette());
   QApplication::setFont(font_of(forms::Font{}));
 }

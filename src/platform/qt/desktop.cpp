@@ -6,6 +6,7 @@
 
 #include "platform/qt/application.h"
 #include "platform/qt/boxes.h"
+#include "platform/qt/file_dialog.h"
 #include "platform/qt/images.h"
 #include "platform/qt/look.h"
 #include "platform/qt/peer.h"
@@ -53,6 +54,7 @@ std::unique_ptr<forms::Peer> QtDesktop::show(Control& control) {
     case Kind::text_box:
     case Kind::combo_box:
     case Kind::list_box: return make_text_peer(control);
+    case Kind::dialog: return nullptr;
   }
   return nullptr;
 }
@@ -60,6 +62,8 @@ std::unique_ptr<forms::Peer> QtDesktop::show(Control& control) {
 int QtDesktop::message_box(const std::string& text, int style, const std::string& title) {
   return qt::message_box(text, style, title);
 }
+
+bool QtDesktop::file_dialog(forms::FileDialog& dialog) { return qt::file_dialog(dialog); }
 
 void QtDesktop::error_box(int number, const std::string& text) {
   qt::message_box("実行時エラー '" + std::to_string(number) + "':\n\n" + text, 16,

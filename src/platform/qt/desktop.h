@@ -31,6 +31,7 @@ class QtDesktop : public forms::Desktop {
   void pointer_button(bool down) override;
   bool has_focus(const forms::Window& window) override;
   void text_size(const std::string& text, const forms::Font& font, int wrap, int& width, int& height) override;
+  bool file_dialog(forms::FileDialog& dialog) override;
   bool read_clipboard(raster::Surface& picture) override;
   void write_clipboard(const raster::Surface& picture) override;
   void clear_clipboard() override;

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/drops.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/look.h"
 #include "platform/qt/peer.h"
@@ -42,9 +43,8 @@ bool is_sizable(const Window& window) {
   return window.border == Border::sizable || window.border == Border::sizable_tool;
 }
 
-// Something in it is typed into, or it answers keys itself.
+// Something in it is typed into.
 bool wants_keys(const Window& window) {
-  if (window.Form_KeyPress) return true;
   return std::ranges::any_of(window.controls(), [](const forms::Control* c) {
     return c->kind == forms::Kind::text_box || c->kind == forms::Kind::combo_box || c->kind == forms::Kind::list_box;
   });
@@ -125,6 +125,7 @@ void WindowPeer::realize() {
     widget->setFocusPolicy(Qt::ClickFocus);  // a click beside a text field takes the keyboard from it
   }
   widget->installEventFilter(this);
+  if (window_.Form_Drop) take_drops(*widget, window_);
   at_ = QPoint(pixels(window_.Left()), pixels(window_.Top()));
   widget->move(at_);
   place();
@@ -272,7 +273,7 @@ void WindowPeer::uncovered() {
   });
 }
 
-// Enter and Escape go to the buttons that stand for them, then to the window; other keys to the control that has the
+// Enter and Escape go to the buttons that stand for them; other keys to the control that has the
 // keyboard in the window, or in its owner if this one is a palette.
 void WindowPeer::key_pressed(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -283,7 +284,6 @@ void WindowPeer::key_pressed(QKeyEvent* event) {
       const auto* button = static_cast<forms::CommandButton*>(c);
       if (enter ? button->is_default : button->is_cancel) return user_event([&] { button->Click.fire(button->index); });
     }
-    if (window_.Form_KeyPress) return user_event([&] { window_.Form_KeyPress.fire(-1, enter ? 13 : 27); });
   }
   const QWidget* typed_into = widget->focusWidget();
   if (typed_into && typed_into->testAttribute(Qt::WA_InputMethodEnabled)) return;
