@@ -8,6 +8,8 @@
 #include <cstdlib>
 #include <deque>
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +18,7 @@
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
 #include "frame/usr_sub.h"
+#include "platform/forms/dialogs.h"
 
 namespace stage {
 
@@ -62,6 +65,9 @@ class StageDesktop : public forms::Desktop {
   };
   std::deque<int> answers;
   std::vector<Box> boxes;
+  std::deque<std::optional<std::string>> files;  // what file dialogs are answered; none: Cancel
+  std::vector<forms::FileDialog> dialogs;        // what they were given
+  std::function<void()> while_asking = [] {};    // runs while a box or a dialog stands open
   int beeps = 0;
   float x = 0, y = 0;
   bool held = false;
@@ -69,6 +75,7 @@ class StageDesktop : public forms::Desktop {
 
   int message_box(const std::string& text, int style, const std::string& title) override {
     boxes.push_back({text, style, title});
+    while_asking();
     if ((style & 7) == 0) return 1;
     if (answers.empty()) {
       ADD_FAILURE() << "a box without an answer: " << text;
@@ -77,6 +84,18 @@ class StageDesktop : public forms::Desktop {
     const int answer = answers.front();
     answers.pop_front();
     return answer;
+  }
+  bool file_dialog(forms::FileDialog& dialog) override {
+    dialogs.push_back(dialog);
+    while_asking();
+    if (files.empty()) {
+      ADD_FAILURE() << "a file dialog without an answer";
+      throw forms::ProgramEnd{};
+    }
+    const std::optional<std::string> chosen = files.front();
+    files.pop_front();
+    if (chosen) dialog.FileName = *chosen;
+    return chosen.has_value();
   }
   void beep() override { ++beeps; }
   void pointer_move(int dx, int dy) override { keypad.push_back({1, {dx, dy}}); }

@@ -1,26 +1,24 @@
 // The end of the program: the end dialog and the shutdown.
 #include "frame/cmd_win.h"
 #include "frame/col_win.h"
+#include "frame/d_form.h"
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
 #include "frame/usr_sub.h"
-#include "platform/text/files.h"
 
 namespace kiso {
 
 namespace {
 
-constexpr int OK = 1, CANCEL = 2, YES = 6;
+constexpr int CANCEL = 2, YES = 6;
 
 int ask_to_end() { return MsgBox("Kisoを終了します\rファイルを保存せずに終了しますか ?\r", 547, APP_TITLE + "終了"); }
 
 // True if the picture has been saved.
 bool save_before_end() {
-  const std::string name = PIC_FILE.empty() ? APP_PATH + "/NEWFFILE.BMP" : PIC_FILE;
-  if (!text::Dir(name).empty() &&
-      MsgBox(name + "\rファイルが既に存在しています上書きしますか?", 289, APP_TITLE) != OK) {
-    return false;
-  }
+  std::string name;
+  if (!ask_save_name(name)) return false;
+  SET_CURSOR("WAIT");
   const bool saved = SAVE_PICTURE(name);
   if (saved) PIC_FILE = name;
   TOOL_CHANGED();
@@ -39,6 +37,7 @@ void shut_down() {
   WRITE_CDI();
   COL_WIN.Unload();
   CMD_WIN.Unload();
+  D_FORM.Unload();
   PARAM_WIN_UNLOAD();
 }
 

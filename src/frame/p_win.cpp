@@ -89,6 +89,8 @@ PWin::PWin() : Window("P_WIN", Border::sizable, Scale::pixels, design_p_win) {
   DMY.KeyPress = p_win::DMY_KeyPress;
   DMY.Wheel = p_win::DRAW_Wheel;
   Timer1.Tick = p_win::Timer1_Timer;
+  Timer2.Tick = p_win::Timer2_Timer;
+  Form_Drop = p_win::DROP_WNDPROC;
 }
 
 }  // namespace kiso

@@ -1,6 +1,9 @@
 // The event procedures of the main window: start, end, layout and view in this room, pointer and keys in src/tools.
 #pragma once
 
+#include <string>
+#include <vector>
+
 namespace kiso::p_win {
 
 void Form_Load();
@@ -25,5 +28,7 @@ void DRAW_KeyUp(int KeyCode, int Shift);
 void DMY_MouseDown(int Button, int Shift, float X, float Y);
 void DMY_KeyPress(int KeyAscii);
 void Timer1_Timer();
+void Timer2_Timer();
+void DROP_WNDPROC(const std::vector<std::string>& files);
 
 }  // namespace kiso::p_win

@@ -1,6 +1,7 @@
 // The start of the program: the load event of the main window.
 #include "frame/cmd_win.h"
 #include "frame/col_win.h"
+#include "frame/d_form.h"
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
 #include "frame/splash_win.h"
@@ -114,6 +115,7 @@ void p_win::Form_Load() {
   RB.Cell("RB_IMG", 0, STATUS_ON * 14);
   READ_CDI();
   place_palettes();
+  D_FORM.Load();
   LOADING_FLAG = 0;
   PAL_SHOW();
   UNDO_BUTTON(2);

@@ -63,6 +63,21 @@ inline void unpack_colour(Colour pixel, int32_t& r, int32_t& g, int32_t& b) {
 void LOAD_PICTURE(const std::string& name, int& result);
 // False if the file could not be written; the user has been told.
 bool SAVE_PICTURE(const std::string& name);
+// What a new picture in PIC starts with: its size taken over, shown from its origin, the current tool ready.
+void SHOW_NEW_PICTURE();
+// PIC at x1 from its origin, nothing to undo.
+void SHOW_FROM_ORIGIN();
+// The file dialogs. result: 0 a name was chosen, 1 cancelled, and name is as it was.
+void OPEN_DIALOG(int& result, std::string& name);  // raises FR_EXT
+void SAVE_DIALOG(int& result, std::string& name);
+void AIP_DIALOG(int& result, std::string& name);
+void EXE_DIALOG(int& result, std::string& name);
+// SAVE_DIALOG, and the question before a file is overwritten. False if the user cancels either.
+bool ask_save_name(std::string& name);
+void CONFIRM_REPLACE(int& result);  // 1: the picture is to stay
+void CLIP_CHECK(int& result);       // 1: there is no picture on the clipboard, the user has been told
+// Takes the clipboard's picture; false if there is none, the user has been told.
+bool clipboard_picture(Surface& picture);
 void READ_CNF();
 void WRITE_CNF();
 void READ_CDI();

@@ -4,6 +4,7 @@
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
 #include "palette/about_win.h"
+#include "palette/file_commands.h"
 #include "palette/help_win.h"
 #include "platform/text/text.h"
 
@@ -108,7 +109,7 @@ void EDIT_B_Click(int Index) {
   choose(row_of(Group::EDIT_B, Index).tool);
 }
 
-void FILE_B_Click(int Index) { press_while(Group::FILE_B, Index, nothing); }
+void FILE_B_Click(int Index) { press_while(Group::FILE_B, Index, FILE_COMMANDS[Index]); }
 
 void EFCT_B_Click(int Index) { press_while(Group::EFCT_B, Index, nothing); }
 

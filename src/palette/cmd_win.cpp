@@ -1,6 +1,7 @@
 // CMD_WIN itself: its design out of the palette's rows, its events, its place on the screen.
 #include "frame/cmd_win.h"
 
+#include "frame/addins.h"
 #include "frame/col_win.h"
 #include "frame/usr_sub.h"
 #include "palette/cmd_click.h"
@@ -119,6 +120,8 @@ void Form_Load() {
   CMD_WIN.Top(CMD_TOP);
   CMD_WIN.Left(CMD_LEFT);
   CMD_WIN.Caption(APP_TITLE);
+  CMD_WIN.FILE_B(7).Enabled(TWSC_ON == 1);  // no scanner, no button
+  CMD_WIN.FILE_B(7).Visible(TWSC_ON == 1);
   CMD_WIN.Top(COL_WIN.Height() + 1);  // whatever was stored: the palette opens below the colour window
 }
 

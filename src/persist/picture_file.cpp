@@ -106,20 +106,24 @@ void leave_empty_box() {
   SET_CURSOR("NORMAL");
 }
 
-void show_new_picture() {
+}  // namespace
+
+void SHOW_NEW_PICTURE() {
   PIC_SIZE(1) = to_int16(PIC.ScaleWidth());
   PIC_SIZE(2) = to_int16(PIC.ScaleHeight());
+  SHOW_FROM_ORIGIN();
+  TOOL_CHANGED();
+}
+
+void SHOW_FROM_ORIGIN() {
   EXP_RATE = 1;
   VIEW_ORG(1) = VIEW_ORG(2) = 0;
   X_SC.Value(0);
   Y_SC.Value(0);
   VIEW_FIT();
-  TOOL_CHANGED();
   UNDO_READY = 0;
   UNDO_BUTTON(2);
 }
-
-}  // namespace
 
 void LOAD_PICTURE(const std::string& name, int& result) {
   result = 0;
@@ -150,7 +154,7 @@ void LOAD_PICTURE(const std::string& name, int& result) {
   }
   PIC.AutoSize(false);
   Timer2.Enabled(AUTOSAVE_MIN != 0);
-  show_new_picture();
+  SHOW_NEW_PICTURE();
 }
 
 // Timer2 stays off after a save, until a picture is loaded: the clock of the auto save stands still.

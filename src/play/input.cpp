@@ -251,6 +251,14 @@ void closewin(const Args& args) {
   enter([&] { w.Unload(); });
 }
 
+void drop(const Args& args) {
+  if (reachable(window_named("P_WIN"))) {
+    enter([&] { window_named("P_WIN").Form_Drop.fire(-1, args); });
+  } else {
+    player.say("ignored P_WIN");
+  }
+}
+
 void tick(const Args& args) {
   Control& c = control_named(args[0]);
   if (c.kind != Kind::timer) throw ScriptError("no timer: " + args[0]);
@@ -277,7 +285,7 @@ std::vector<Command> input_commands() {
       {"dblclick", 3, 3, true, dblclick}, {"click", 1, 2, true, click}, {"key", 2, 4, true, key},
       {"keydown", 2, 4, true, keydown},   {"keyup", 2, 4, true, keyup}, {"user", 2, 2, true, user},
       {"set", 2, 2, false, set},          {"leave", 1, 1, true, leave}, {"closewin", 1, 1, true, closewin},
-      {"tick", 1, 2, true, tick},
+      {"tick", 1, 2, true, tick},         {"drop", 1, -1, true, drop},
   };
 }
 

@@ -1,5 +1,6 @@
 #include "play/play_desktop.h"
 
+#include "platform/forms/dialogs.h"
 #include "play/player.h"
 
 namespace play {
@@ -74,6 +75,20 @@ int PlayDesktop::message_box(const std::string& text, int style, const std::stri
   player.logs["boxes"].push_back(shown + " " + word_of(answer));
   player.boxes.push_back({std::to_string(style), title, text});
   return answered ? answer : next_answer(style);
+}
+
+bool PlayDesktop::file_dialog(forms::FileDialog& dialog) {
+  player.logs["dialogs"].push_back((dialog.save ? "save " : "open ") + quoted(dialog.FileName) + " " +
+                                   quoted(dialog.Filter) + " " + std::to_string(dialog.FilterIndex) + " " +
+                                   std::to_string(dialog.Flags));
+  if (player.files.empty()) {
+    player.failure = "a file dialog without an answer in the queue";
+    throw forms::ProgramEnd{};
+  }
+  const std::optional<std::string> chosen = player.files.front();
+  player.files.pop_front();
+  if (chosen) dialog.FileName = *chosen;
+  return chosen.has_value();
 }
 
 void PlayDesktop::error_box(int /*number*/, const std::string& /*text*/) {}  // told by the run's status

@@ -13,6 +13,7 @@ class PlayDesktop : public qt::QtDesktop {
   std::unique_ptr<forms::Peer> show(forms::Control& control) override;  // a timer has no peer: it ticks when told
   using QtDesktop::show;
   int message_box(const std::string& text, int style, const std::string& title) override;
+  bool file_dialog(forms::FileDialog& dialog) override;
   void error_box(int number, const std::string& text) override;
   void do_events() override;
   void beep() override;

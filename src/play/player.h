@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,7 @@ struct Player {
   std::deque<std::function<void()>> keypad;  // moves and presses of the keypad, not yet delivered
 
   std::deque<int> answers;                               // of boxes to come
+  std::deque<std::optional<std::string>> files;          // of file dialogs to come; none: Cancel
   std::map<std::string, std::vector<std::string>> logs;  // by kind, since it was last printed
   std::deque<std::vector<std::string>> boxes;            // not yet asked about: style, title, text
   std::string failure;                                   // a ScriptError found inside of an event

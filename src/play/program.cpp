@@ -121,6 +121,11 @@ void answer(const Args& args) {
   }
 }
 
+void choose(const Args& args) {
+  const bool cancelled = args[0] == "cancel" && !player.quoted[0];
+  player.files.push_back(cancelled ? std::nullopt : std::optional(args[0]));
+}
+
 }  // namespace
 
 void fit_maximized() {
@@ -152,7 +157,7 @@ std::vector<Command> program_commands() {
       {"copy", 2, 2, false, copy},    {"remove", 1, 1, false, remove},
       {"write", 1, -1, false, write}, {"write-unix", 1, -1, false, write_unix},
       {"exec", 1, 1, false, exec},    {"answer", 1, -1, false, answer},
-      {"time", 1, 1, false, time},
+      {"time", 1, 1, false, time},    {"choose", 1, 1, false, choose},
   };
 }
 

@@ -165,12 +165,16 @@ TEST(End, CancelledLeavesEverythingAsItWas) {
   EXPECT_TRUE(COL_WIN.Visible());
 }
 
-TEST(End, SavesToTheCurrentNameAfterAsking) {
+TEST(End, SavesUnderTheNameOfTheDialogAfterAsking) {
   const std::string path = picture_file("a.bmp");
   start(path);
   click(0, 0);
   desk().answers = {7, 1};
+  desk().files = {path};
   close();
+  ASSERT_EQ(desk().dialogs.size(), 1U);
+  EXPECT_TRUE(desk().dialogs[0].save);
+  EXPECT_EQ(desk().dialogs[0].FileName, path);
   ASSERT_EQ(desk().boxes.size(), 2U);
   EXPECT_EQ(desk().boxes[1].style, 289);
   EXPECT_EQ(desk().boxes[1].text, path + "\rファイルが既に存在しています上書きしますか?");
@@ -183,6 +187,7 @@ TEST(End, NotToOverwriteLeadsBackToTheQuestion) {
   start(path);
   click(0, 0);
   desk().answers = {7, 2, 6};
+  desk().files = {path};
   close();
   EXPECT_EQ(desk().boxes.size(), 3U);
   EXPECT_EQ(GetPixel(raster::load_picture_file(path), 0, 0), colour_of('b'));
@@ -190,8 +195,8 @@ TEST(End, NotToOverwriteLeadsBackToTheQuestion) {
 
 TEST(End, AFailedSaveShowsOneBoxAndAsksAgain) {
   start();
-  forms::enter([] { PIC_FILE = "/no/such/folder/a.bmp"; });
   desk().answers = {7, 2};
+  desk().files = {"/no/such/folder/a.bmp"};
   close();
   ASSERT_EQ(desk().boxes.size(), 3U);
   EXPECT_EQ(desk().boxes[1].text,
@@ -199,6 +204,28 @@ TEST(End, AFailedSaveShowsOneBoxAndAsksAgain) {
   EXPECT_EQ(desk().boxes[1].style, 48);
   EXPECT_EQ(desk().boxes[2].style, 547);
   EXPECT_FALSE(forms::has_ended());
+}
+
+TEST(End, CancelInTheSaveDialogLeadsBackToTheQuestion) {
+  start();
+  desk().answers = {7, 2};
+  desk().files = {std::nullopt};
+  close();
+  ASSERT_EQ(desk().boxes.size(), 2U);
+  EXPECT_EQ(desk().boxes[1].style, 547);
+  EXPECT_FALSE(forms::has_ended());
+}
+
+TEST(End, ANewPictureIsSavedWithoutAQuestionAndIsTheLastOne) {
+  start();
+  const std::string path = home().path + "/new.bmp";
+  desk().answers = {7};
+  desk().files = {path};
+  close();
+  EXPECT_EQ(desk().dialogs[0].FileName, "");
+  EXPECT_EQ(raster::load_picture_file(path).width(), 640);
+  EXPECT_TRUE(forms::has_ended());
+  EXPECT_EQ(PIC_FILE, path);
 }
 
 TEST(End, WritesTheSettings) {

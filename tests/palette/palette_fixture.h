@@ -17,6 +17,7 @@ class Palette : public ::testing::Test {
 };
 
 constexpr int LEFT = 1, RIGHT = 2;
+constexpr int YES = 6, NO = 7;
 
 // A click as the display delivers it, of a button that can be reached.
 inline void click(ImageBox& button, int with = LEFT) {

@@ -89,7 +89,9 @@ TEST_F(Palette, AButtonWithoutACommandComesUpAgainAndKeepsTheTool) {
 
 TEST_F(Palette, MomentaryButtonsComeUpAgain) {
   click(CMD_WIN.ROOT_B(2));
-  for (int i = 0; i < 8; ++i) click(CMD_WIN.FILE_B(i));
+  desktop_.answers = {NO, NO};  // to Load and to New
+  desktop_.files = {std::nullopt};
+  for (int i = 0; i < 7; ++i) click(CMD_WIN.FILE_B(i));
   EXPECT_EQ(pressed(CMD_WIN.FILE_B), Pressed{});
   click(CMD_WIN.ROOT_B(5));
   for (int i = 0; i < 6; ++i) click(CMD_WIN.EFCT_B(i));
@@ -103,6 +105,10 @@ TEST_F(Palette, MomentaryButtonsComeUpAgain) {
 
 TEST_F(Palette, TheFileButtonsKnowWhichMouseButtonItWas) {
   click(CMD_WIN.ROOT_B(2));
+  enter([] {
+    CMD_WIN.FILE_B(7).Enabled(true);
+    CMD_WIN.FILE_B(7).Visible(true);
+  });
   click(CMD_WIN.FILE_B(7), RIGHT);
   EXPECT_EQ(CMD_WIN.FILE_B_RIGHT, 1);
   click(CMD_WIN.FILE_B(7));

@@ -1,0 +1,82 @@
+#include "palette/file_commands.h"
+
+#include "frame/p_win.h"
+#include "frame/usr_sub.h"
+#include "platform/forms/clipboard.h"
+
+namespace kiso {
+
+namespace {
+
+void show_name(const std::string& name) { P_WIN.Caption(APP_TITLE + ":" + name); }
+
+// A failed load leaves the name that failed.
+void load() {
+  int result = 0;
+  CONFIRM_REPLACE(result);
+  if (result != 0) return;
+  std::string name;
+  OPEN_DIALOG(result, name);
+  if (name.empty() || result != 0) return;
+  LOAD_PICTURE(name, result);
+  PIC_FILE = name;
+  show_name(PIC_FILE);
+}
+
+void save() {
+  std::string name;
+  if (!ask_save_name(name)) return;
+  SET_CURSOR("WAIT");
+  SAVE_PICTURE(name);
+  TOOL_CHANGED();
+  PIC_FILE = name;
+  show_name(PIC_FILE);
+}
+
+void load_from_clipboard() {
+  int result = 0;
+  CLIP_CHECK(result);
+  if (result == 0) CONFIRM_REPLACE(result);
+  if (result != 0) return;
+  Surface picture;
+  if (!clipboard_picture(picture)) return;  // who offered it may be gone by now
+  PIC_FILE = "";
+  SET_CURSOR("WAIT");
+  PIC.AutoSize(true);
+  PIC.Picture(std::move(picture));
+  PIC.AutoSize(false);
+  SHOW_NEW_PICTURE();
+  show_name("ClipBoard");
+}
+
+void save_to_clipboard() {
+  if (STRETCH_OK != 1) {
+    MsgBox("StretchBltとImageに問題のある機種では使えません");
+    return;
+  }
+  Clipboard::Clear();
+  SET_CURSOR("WAIT");
+  PIC.Refresh();
+  Clipboard::SetData(PIC.Image(), Clipboard::BITMAP);
+  TOOL_CHANGED();
+}
+
+// The size stays, and the caption keeps the old name.
+void new_picture() {
+  int result = 0;
+  CONFIRM_REPLACE(result);
+  if (result != 0) return;
+  PIC_FILE = "";
+  Line(PIC, 0, 0, PIC_SIZE(1), PIC_SIZE(2), RGB(TAR_R, TAR_G, TAR_B), LineForm::box_fill);
+  SHOW_FROM_ORIGIN();
+}
+
+void nothing() {}
+
+}  // namespace
+
+void (*const FILE_COMMANDS[8])() = {
+    load, save, load_from_clipboard, save_to_clipboard, nothing, new_picture, nothing, nothing,
+};
+
+}  // namespace kiso

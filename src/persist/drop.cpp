@@ -1,0 +1,46 @@
+// Files dropped on the main window: the first one is loaded, after a question.
+#include <string>
+#include <vector>
+
+#include "frame/p_win.h"
+#include "frame/p_win_events.h"
+#include "frame/usr_sub.h"
+#include "platform/text/text.h"
+
+namespace kiso {
+
+namespace {
+
+constexpr int NO = 7;
+constexpr size_t NAME_BYTES = 126;  // a longer name is cut
+
+constinit bool dropping = false;
+
+// As many whole characters of the name as there is room for.
+std::string cut(const std::string& name) {
+  size_t end = 0;
+  while (end < name.size()) {
+    const size_t next = end + std::max<size_t>(1, text::utf8_bytes(name, end));
+    if (next > NAME_BYTES) break;
+    end = next;
+  }
+  return name.substr(0, end);
+}
+
+}  // namespace
+
+// What is dropped while the question stands open is gone.
+void p_win::DROP_WNDPROC(const std::vector<std::string>& files) {
+  if (dropping || files.empty()) return;
+  dropping = true;
+  const std::string name = cut(files[0]);
+  if (MsgBox(name + "がドロップされました\r現在の画像は保存されませんがそれでもよろしいですか?", 36, APP_TITLE) != NO) {
+    int result = 0;
+    LOAD_PICTURE(name, result);
+    PIC_FILE = name;
+    P_WIN.Caption(APP_TITLE + ":" + PIC_FILE);
+  }
+  dropping = false;
+}
+
+}  // namespace kiso
