@@ -6,6 +6,8 @@ export LC_ALL=C.UTF-8
 desktop=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
 bin=$1
 . "$desktop/../../packaging/display.sh"
+# Qt keeps the places and the history of its file dialogs there.
+export XDG_CONFIG_HOME=$scratch/config
 # Leaks of Qt's and fontconfig's caches are none of the editor's; everything else that a sanitizer finds ends the program.
 export ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1
 start_display Xvfb -screen 0 1280x800x24
@@ -184,10 +186,21 @@ box_is_open() {
   [ "$(xdotool getwindowname "$box")" = "$1" ] && xprop -id "$box" _NET_WM_WINDOW_TYPE | grep -q DIALOG
 }
 
+OPEN_TITLE='ファイルを開く' SAVE_TITLE='名前を付けて保存'
+
+# choose_file TITLE [FILE]: takes a file in the file dialog of that title, the one that it proposes if none is told
+choose_file() {
+  until_true "the dialog '$1'" box_is_open "$1"
+  [ $# = 1 ] || xdotool key ctrl+a type --delay 1 "$2"
+  xdotool key Return
+  until_true "the end of the dialog '$1'" eval "! box_is_open '$1'"
+}
+
 # Closes the window by the key of its frame; the end dialog's No saves the picture under its own name.
 end_with_save() {
   xdotool key alt+F4
   answer 'Kiso 終了' 1
+  choose_file "$SAVE_TITLE"
   answer 'Kiso ' 1
   until_true "the end of the program" not_running
   wait "$editor" || fail "the program ended with status $?"
