@@ -127,3 +127,18 @@ cp large.bmp handed.bmp
 [ ! -e handed.bmp ] || fail "a full disk, and no sign of it"
 expect_refusal nowhere write -1 large.bmp "$work/no/directory/target.PNG"
 [ "$(ls | grep -c '^target.PNG')" = 1 ] || fail "a part of a file is left: $(ls)"
+
+# --- killed between taking the file and writing the target: the target is as it was, and what was handed over is gone
+convert -size 2000x1500 xc: +noise Random BMP3:noise.bmp
+status=0
+until [ $status = 137 ]; do  # unless it was done before it could be killed
+  cp from.PNG target.PNG
+  cp noise.bmp handed.bmp
+  "$addins/KISOIMG" write -1 handed.bmp "$work/target.PNG" &
+  while [ -e handed.bmp ]; do sleep 0.01; done
+  kill -KILL $!
+  status=0
+  wait $! || status=$?
+done
+cmp from.PNG target.PNG || fail "a killed run has changed the target"
+[ ! -e handed.bmp ] || fail "a killed run, and no sign of it"
