@@ -49,6 +49,17 @@ void open_parameters(const PalButton& button) {
   if (CMD_WIN.BTN_RIGHT == 1 && button.right != Param::none) PARAM_WIN_SHOW(button.tool);
 }
 
+// WORK takes the clipboard's picture, to float above DRAW. False if there is none; the user has been told.
+bool take_clipboard() {
+  Surface picture;
+  if (!clipboard_picture(picture)) return false;
+  WORK.AutoSize(true);
+  WORK.Picture(std::move(picture));
+  WORK.AutoSize(false);
+  WORK.Move(0, 0);
+  return true;
+}
+
 // The first panel of the expansion palette, with its group button.
 void open_first_expansion_panel() {
   CMD_WIN.EXP_M(0).Visible(true);
@@ -99,6 +110,7 @@ void CMD_B_Click(int Index) {
     MsgBox("StretchBltとImageに問題のある機種では使えません");
     tool = 0;
   }
+  if (tool == 19 && !take_clipboard()) return;
   choose(tool);
   open_parameters(button);
 }

@@ -47,7 +47,7 @@ constexpr PalButton PALETTE[] = {
     {CMD_B, 16, P::ROOT_M4, 0, 1, none, 16, nullptr, "色の反転"},
     {CMD_B, 17, P::ROOT_M6, 0, 0, none, 17, nullptr, "色の置き換え"},
     {CMD_B, 18, P::ROOT_M4, 1, 0, none, 18, nullptr, "クリップボードへコピー"},
-    {CMD_B, 19, P::ROOT_M4, 1, 1, none, NO_TOOL, "Copy from Clipboard", "クリップボードから貼り付け"},
+    {CMD_B, 19, P::ROOT_M4, 1, 1, none, 19, nullptr, "クリップボードから貼り付け"},
     {CMD_B, 20, P::ROOT_M0, 1, 3, none, NO_TOOL, "Write word", "文字"},
     {CMD_B, 21, P::ROOT_M4, 1, 2, SPRAY_WIN, 21, nullptr, "スプレー"},
     {CMD_B, 22, P::ROOT_M4, 1, 3, SPRAY_WIN, 22, nullptr, "マスクスプレー"},

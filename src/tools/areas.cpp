@@ -4,6 +4,7 @@
 
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "platform/forms/clipboard.h"
 #include "tools/tools.h"
 
 namespace kiso {
@@ -101,6 +102,23 @@ void block_copy_stamp(float X, float Y) {
   const Point place = block_place(X, Y);
   stamp_work(place.x, place.y, AREA_W, AREA_H);
   CUR_TOOL = 11102;
+}
+
+// --- the clipboard
+
+// Other programs get a picture of even width and height.
+void clipboard_copy_release(float X, float Y) {
+  lift_selection(X, Y, true);
+  Clipboard::Clear();
+  Clipboard::SetData(WORK.Image());
+}
+
+// The palette has put the clipboard's picture on WORK; the pointer holds it by its bottom right corner.
+void clipboard_hover(float X, float Y) { WORK.Move(X - WORK.Width(), Y - WORK.Height()); }
+
+void clipboard_stamp(float X, float Y) {
+  stamp_work(X - WORK.Width(), Y - WORK.Height(), to_int32(WORK.Width()), to_int32(WORK.Height()));
+  CUR_TOOL = 0;
 }
 
 }  // namespace kiso

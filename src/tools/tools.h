@@ -63,13 +63,16 @@ void bezier_press(float X, float Y);
 void paint_a(float X, float Y);
 void paint_b(float X, float Y);
 
-// areas.cpp: a part of the view floats on WORK and is stamped
+// areas.cpp: a part of the view, or the clipboard's picture, floats on WORK and is stamped
 void area_copy_release(float X, float Y);
 void area_hover(float X, float Y);
 void area_stamp(float X, float Y);
 void block_copy_release(float X, float Y);
 void block_copy_hover(float X, float Y);
 void block_copy_stamp(float X, float Y);
+void clipboard_copy_release(float X, float Y);
+void clipboard_hover(float X, float Y);
+void clipboard_stamp(float X, float Y);
 // What floats lands on DRAW, w x h pixels of it with the top left at that place, and floats no longer.
 void stamp_work(double left, double top, int w, int h);
 
