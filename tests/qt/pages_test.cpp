@@ -118,6 +118,13 @@ TEST_F(Pages, ArrowsPassAnOptionThatIsNotEnabled) {
   EXPECT_EQ(PAGED.Option1.Value(), 1);
 }
 
+TEST_F(Pages, AKeyThatNobodyTakesEnds) {
+  logic([] { PAGED.Option2.SetFocus(); });
+  type(Qt::Key_X);
+  key(QEvent::KeyRelease, widget(PAGED.Option2), Qt::Key_Down);
+  EXPECT_EQ(taken(), Said{});
+}
+
 TEST_F(Pages, EnterAndEscapeOnAPageReachOkAndCancel) {
   logic([] { PAGED.Option2.SetFocus(); });
   type(Qt::Key_Return);

@@ -39,6 +39,7 @@ raster::Colour plain_colour(uint32_t colour);
 class PictureBox : public Control, public PointerEvents, public KeyEvents {
  public:
   PictureBox(Window& window, const char* name, int index = -1);
+  bool takes_keys() const { return KeyDown || KeyPress || KeyUp; }
 
   // What drawing and reading pixels go to.
   raster::Surface& target() { return touched(), made(auto_redraw_ ? image_ : screen_); }

@@ -25,8 +25,7 @@ namespace {
 ControlPeer* peer_of(const Control& control) { return dynamic_cast<ControlPeer*>(control.peer.get()); }
 
 bool has_keys(const Control& control) {
-  return control.kind == forms::Kind::picture &&
-         static_cast<bool>(static_cast<const forms::PictureBox&>(control).KeyDown);
+  return control.kind == forms::Kind::picture && static_cast<const forms::PictureBox&>(control).takes_keys();
 }
 
 }  // namespace
@@ -118,7 +117,8 @@ void ControlPeer::take_focus() {
   const Quiet quiet;
   if (!widget_) realize();
   if (!widget_) return;
-  set_keyboard(control_.window, widget_);
+  // Only what takes every key: one that is handed on and not taken would come back to the window.
+  if (has_keys(control_)) set_keyboard(control_.window, widget_);
   widget_->setFocus(Qt::OtherFocusReason);
 }
 

@@ -33,7 +33,6 @@ class PicturePeer final : public ControlPeer {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool takes_keys() const { return box_.KeyDown || box_.KeyPress || box_.KeyUp; }
   void paint(const QPaintEvent& event);
   bool wheel(const QWheelEvent& event);
 
@@ -46,7 +45,7 @@ QWidget* PicturePeer::make(QWidget* parent) {
   auto* w = new QWidget(parent);
   w->setAttribute(Qt::WA_OpaquePaintEvent);
   w->setMouseTracking(static_cast<bool>(box_.MouseMove));
-  if (takes_keys()) w->setFocusPolicy(Qt::ClickFocus);
+  if (box_.takes_keys()) w->setFocusPolicy(Qt::ClickFocus);
   track_.second_press_is_press = box_.second_press_is_press;
   return w;
 }
@@ -85,7 +84,7 @@ bool PicturePeer::eventFilter(QObject* /*watched*/, QEvent* event) {
     // A key that repeats or means nothing here still ends here; one of a control on a page of a dialog passes.
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-      if (!takes_keys()) return false;
+      if (!box_.takes_keys()) return false;
       keypad_from(*widget());
       if (reachable()) key_event(box_, box_, *static_cast<QKeyEvent*>(event));
       return true;
