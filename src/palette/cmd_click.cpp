@@ -1,6 +1,7 @@
 #include "palette/cmd_click.h"
 
 #include "frame/p_win.h"
+#include "frame/set_win.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
 #include "palette/about_win.h"
@@ -126,7 +127,7 @@ void FILE_B_Click(int Index) { press_while(Group::FILE_B, Index, FILE_COMMANDS[I
 void EFCT_B_Click(int Index) { press_while(Group::EFCT_B, Index, nothing); }
 
 void SYS_B_Click(int Index) {
-  constexpr void (*COMMANDS[])() = {[] { P_WIN.Unload(); }, ABOUT_SHOW, nothing, nothing, nothing};
+  constexpr void (*COMMANDS[])() = {[] { P_WIN.Unload(); }, ABOUT_SHOW, [] { SET_WIN.Show(&P_WIN); }, nothing, nothing};
   press_while(Group::SYS_B, Index, COMMANDS[Index]);
 }
 

@@ -6,6 +6,7 @@
 #include "frame/addins.h"
 #include "frame/cmd_win.h"
 #include "frame/p_win.h"
+#include "frame/set_win.h"
 #include "play/script.h"
 
 namespace play {
@@ -194,7 +195,15 @@ constexpr VariableRow VARIABLES[] = {
     FIELD(CMD_WIN, EXP_M1, EXP_M1_pressed),
     FIELD(CMD_WIN, EXP_M2, EXP_M2_pressed),
     FIELD(CMD_WIN, BTN_RIGHT, BTN_RIGHT),
-    FIELD(CMD_WIN, FILE_B_RIGHT, FILE_B_RIGHT)};
+    FIELD(CMD_WIN, FILE_B_RIGHT, FILE_B_RIGHT),
+    // fields of SET_WIN
+    FIELD(SET_WIN, SW_REWRITE, SW_REWRITE),
+    FIELD(SET_WIN, SW_STRETCH, SW_STRETCH),
+    FIELD(SET_WIN, SW_RELOAD, SW_RELOAD),
+    {"SW_REWRITE", 0, [](At) -> Variable { return &SET_WIN.SW_REWRITE; }},
+    {"SW_STRETCH", 0, [](At) -> Variable { return &SET_WIN.SW_STRETCH; }},
+    {"SW_RELOAD", 0, [](At) -> Variable { return &SET_WIN.SW_RELOAD; }},
+};
 
 #undef PLAIN
 #undef FIELD

@@ -1,4 +1,5 @@
 // Which buttons look pressed, which panel lies in front, and how the two palettes replace each other.
+#include "frame/set_win.h"
 #include "palette/palette_fixture.h"
 
 namespace kiso {
@@ -97,7 +98,10 @@ TEST_F(Palette, MomentaryButtonsComeUpAgain) {
   for (int i = 0; i < 6; ++i) click(CMD_WIN.EFCT_B(i));
   EXPECT_EQ(pressed(CMD_WIN.EFCT_B), Pressed{});
   click(CMD_WIN.ROOT_B(3));
-  for (int i = 1; i < 5; ++i) click(CMD_WIN.SYS_B(i));
+  for (int i = 1; i < 5; ++i) {
+    click(CMD_WIN.SYS_B(i));
+    enter([] { SET_WIN.Unload(); });  // the palette waits for it
+  }
   EXPECT_EQ(pressed(CMD_WIN.SYS_B), Pressed{});
   for (int i = 0; i < 3; ++i) click(CMD_WIN.OPT_W_B(i));
   EXPECT_EQ(pressed(CMD_WIN.OPT_W_B), Pressed{});
