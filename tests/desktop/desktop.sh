@@ -174,10 +174,16 @@ button() {
 
 # answer TITLE STEPS: takes the button of the box of that title which is STEPS to the left of the one that is proposed
 answer() {
-  local i
+  local i box
   until_true "the box '$1'" box_is_open "$1"
+  box=$(xdotool getactivewindow)
   for ((i = 0; i < $2; i++)); do xdotool key Left; done
   xdotool key Return
+  until_true "the end of the box '$1'" is_gone "$box"  # palettes bear the same title
+}
+
+is_gone() {
+  ! xwininfo -id "$1" | grep -q IsViewable
 }
 
 box_is_open() {
