@@ -65,6 +65,7 @@ void call(const Args& args) {
 void log(const Args& args) {
   if (!is_log(args[0])) throw ScriptError("unknown record " + args[0]);
   for (const std::string& entry : take_log(args[0])) player.say(entry);
+  if (args[0] == "boxes") player.boxes.clear();  // what was printed was asked about
 }
 
 }  // namespace

@@ -71,16 +71,14 @@ class Cutter {
     }
   }
 
-  // One character, or all that a $ name stands for.
+  // One character, or all that a $ name stands for. A $ with no capital letter and no digit but 0 behind it begins no
+  // name and is itself, so that a script can write a shell script with "$@" and ${1}.
   void take(std::string& text) {
-    if (line_[at_] == '$') {
-      size_t end = at_ + 1;
+    const char first = line_[at_] == '$' && at_ + 1 < line_.size() ? line_[at_ + 1] : ' ';
+    if ((first >= '1' && first <= '9') || (first >= 'A' && first <= 'Z')) {
+      size_t end = at_ + 2;
       // $1 is one digit, so that $10 is the first argument and a 0
-      if (end < line_.size() && line_[end] >= '1' && line_[end] <= '9') {
-        ++end;
-      } else {
-        while (end < line_.size() && names_variable(line_[end])) ++end;
-      }
+      while (first > '9' && end < line_.size() && names_variable(line_[end])) ++end;
       const auto found = variables_.find(line_.substr(at_ + 1, end - at_ - 1));
       if (found == variables_.end()) throw ScriptError("unknown name " + line_.substr(at_, end - at_));
       text += found->second;

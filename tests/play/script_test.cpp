@@ -55,7 +55,10 @@ TEST(CutLine, DollarNamesAreReplacedInsideQuotesToo) {
   EXPECT_EQ(cut("$2", variables), Texts{"$1"});  // what it stands for is not read again
   EXPECT_THROW(cut("$3", variables), ScriptError);
   EXPECT_THROW(cut("$TMPDIR", variables), ScriptError);
-  EXPECT_THROW(cut("$", variables), ScriptError);
+
+  // what begins no name stays, as a shell script wants it
+  EXPECT_EQ(cut("\"cp \\\"$@\\\" ${1} $0 $f $(id) $$ 5$\" $", variables),
+            (Texts{"cp \"$@\" ${1} $0 $f $(id) $$ 5$", "$"}));
 }
 
 TEST(Fits, AStarStandsForAnyRun) {
