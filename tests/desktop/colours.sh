@@ -5,10 +5,9 @@
 
 # on_colours X Y: moves the pointer to a point of the colour window, which stands above the palette
 on_colours() {
-  local id x y
-  read -r x y < <(for id in $(xdotool search --onlyvisible --name '^Kiso $'); do
-    xwininfo -id "$id" | awk '/Absolute.*X/ { x = $4 } /Absolute.*Y/ { print x, $4 }'
-  done | sort -n -k 2 | head -n 1)
+  local x y
+  until_true "the palettes" find_palettes
+  read -r x y _ < <(place_of "$colours")
   xdotool mousemove $((x + $1)) $((y + $2))
 }
 TARGET='28 17' RED='12 99' BARS='52 61' DICTIONARY='84 61' H_HANDLE='35 149' NAME='30 85' MODE='67 179' CELL_Q='74 143'

@@ -162,14 +162,41 @@ keypad() {
   for digit; do xdotool key "${KEYPAD[$digit]}"; done
 }
 
+# place_of ID: left, top, width and height on the screen, frame not counted
+place_of() {
+  xwininfo -id "$1" | awk '/Absolute|Width|Height/ { print $NF }' | xargs
+}
+
+# Sets $colours and $palette, the two windows of that name from the top, and $places, where they are. Boxes have the same
+# name.
+find_palettes() {
+  local id
+  places=$(for id in $(xdotool search --onlyvisible --name '^Kiso $'); do
+    xprop -id "$id" _NET_WM_WINDOW_TYPE | grep -q DIALOG || echo "$(place_of "$id") $id"
+  done | sort -n -k 2)
+  read -r colours palette < <(awk '{ print $5 }' <<<"$places" | xargs)
+  [ -n "$palette" ]
+}
+
+# They are shown, and where they were a moment ago: a window manager moves what comes back to the screen once more.
+palettes_stand() {
+  local before=${places-}
+  find_palettes && [ "$before" = "$places" ]
+}
+
+# click_in ID X Y: a click on a point of a window
+click_in() {
+  local x y
+  read -r x y _ < <(place_of "$1")
+  xdotool mousemove $((x + $2)) $((y + $3)) click 1
+}
+
 # button TOP ROW COLUMN: a click on a button of the palette, in the panel that begins at TOP
 ROOT_GROUPS=4 ROOT_PANEL=56 EXP_GROUPS=4 EXP_PANEL=32
 button() {
-  local id x y
-  read -r x y < <(for id in $(xdotool search --onlyvisible --name '^Kiso $'); do
-    xwininfo -id "$id" | awk '/Absolute.*X/ { x = $4 } /Absolute.*Y/ { print x, $4 }'
-  done | sort -n -k 2 | tail -n 1)  # it stands below the colour window
-  xdotool mousemove $((x + 4 + 24 * $3 + 12)) $((y + $1 + 24 * $2 + 12)) click 1
+  places=''
+  until_true "the palettes" palettes_stand
+  click_in "$palette" $((4 + 24 * $3 + 12)) $(($1 + 24 * $2 + 12))
 }
 
 # answer TITLE STEPS: takes the button of the box of that title which is STEPS to the left of the one that is proposed

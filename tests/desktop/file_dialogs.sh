@@ -39,6 +39,6 @@ until_true "the file" same "$scratch/wanted.bmp" "$new"
 button $ROOT_PANEL 1 2
 until_true "the dialog" box_is_open "$SAVE_TITLE"
 xdotool key Escape
-until_true "the palettes" xdotool search --onlyvisible --name '^Kiso $'
+until_true "the palettes" find_palettes
 find_window "Kiso :$new" || fail "the name has changed"
 expect_shows "$scratch/wanted.bmp"

@@ -3,26 +3,12 @@
 # it. A second picture finds them there too.
 . "$(dirname "$0")/desktop.sh"
 
-# place_of ID: left, top, width and height on the screen, frame not counted
-place_of() {
-  xwininfo -id "$1" | awk '/Absolute|Width|Height/ { print $NF }' | xargs
-}
-
-# Sets $colours and $palette, the two windows of that name from the top.
-find_palettes() {
-  local id
-  read -r colours palette < <(for id in $(xdotool search --onlyvisible --name '^Kiso $'); do
-    echo "$(place_of "$id") $id"
-  done | sort -n -k 2 | awk '{ print $5 }' | xargs)
-  [ -n "$palette" ]
-}
-
-places() {
+all_places() {
   find_palettes
   echo "$(place_of "$window") / $(place_of "$colours") / $(place_of "$palette")"
 }
 
-places_are() { [ "$(places)" = "$1" ]; }
+places_are() { [ "$(all_places)" = "$1" ]; }
 
 # drag_title ID DX DY: moves a window by its frame
 drag_title() {
@@ -43,14 +29,14 @@ end_without_save() {
 picture "$scratch/p.bmp"
 open_editor "$scratch/p.bmp"
 until_true "the palettes" find_palettes
-first=$(places)
+first=$(all_places)
 xdotool windowsize --sync "$window" 700 500
 drag_title "$colours" -77 0
 drag_title "$palette" 55 20
 drag_title "$window" 30 140
 until_true "the moved windows" eval '[ "$(place_of "$window" | cut -d " " -f 3,4)" = "700 500" ]'
 sleep 0.3
-moved=$(places)
+moved=$(all_places)
 [ "${moved%% / *}" != "${first%% / *}" ] || fail "the main window has not moved from $first"
 [ "${moved##* / }" != "${first##* / }" ] || fail "the palette has not moved from $first"
 end_without_save

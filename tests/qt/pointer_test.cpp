@@ -56,6 +56,16 @@ TEST_F(Pointer, SecondPressOfADoubleClickIsNoPress) {
   EXPECT_EQ(taken(), (Said{"down 1 0 10 20", "up 1 0 10 20", "click", "double", "up 1 0 11 20"}));
 }
 
+TEST_F(Pointer, ButtonsClickedFastHaveEveryClick) {
+  logic([] { TOOL.Show(&P); });
+  taken();
+  press(TOOL.CMD_B(1), 5, 5);
+  release(TOOL.CMD_B(1), 5, 5);
+  second_press(TOOL.CMD_B(1), 5, 5);
+  release(TOOL.CMD_B(1), 5, 5);
+  EXPECT_EQ(taken(), (Said{"CMD_B 1", "CMD_B 1"}));
+}
+
 TEST_F(Pointer, SecondPressIsAPressWhereThePictureSaysSo) {
   P.DRAW.second_press_is_press = [] { return true; };
   logic([] { P.Unload(); });

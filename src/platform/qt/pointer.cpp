@@ -38,8 +38,10 @@ int button_state(Qt::MouseButtons buttons) {
 
 void PointerTrack::press(forms::Control& control, forms::PointerEvents& events, const QMouseEvent& event, QPointF at) {
   const QPointF way = at - last_press_;
-  const bool second = event.type() == QEvent::MouseButtonDblClick && std::abs(way.x()) <= DOUBLE_CLICK_REACH &&
-                      std::abs(way.y()) <= DOUBLE_CLICK_REACH && !(second_press_is_press && second_press_is_press());
+  // Where nobody waits for a double click, buttons clicked fast have every click.
+  const bool second = event.type() == QEvent::MouseButtonDblClick && events.DblClick &&
+                      std::abs(way.x()) <= DOUBLE_CLICK_REACH && std::abs(way.y()) <= DOUBLE_CLICK_REACH &&
+                      !(second_press_is_press && second_press_is_press());
   const int button = button_state(event.button());
   last_press_ = at;
   clicks_with_ = second || button == 4 ? 0 : button;
