@@ -42,12 +42,23 @@ QImage read_picture(const QString& name) {
   return opaque;
 }
 
-// Whole or not at all: the file takes its name when all of it stands on the disk.
+QSize size_of(const QByteArray& bytes, const QByteArray& kind) {
+  QBuffer buffer;
+  buffer.setData(bytes);
+  QImageReader reader(&buffer, kind);
+  return reader.supportsOption(QImageIOHandler::Size) ? reader.size() : reader.read().size();
+}
+
+// Whole or not at all: the file takes its name when all of it stands on the disk. A kind for icons would shrink a
+// picture to the next of its sizes without a word.
 void write_picture(const QImage& picture, const QString& name, const QByteArray& kind, int quality) {
   QBuffer bytes;
   QImageWriter writer(&bytes, kind);
   writer.setQuality(quality);
   if (!writer.write(picture)) throw Failure{name, writer.errorString()};
+  if (size_of(bytes.data(), kind) != picture.size()) {
+    throw Failure{name, QStringLiteral("%1 x %2 is no size of this kind").arg(picture.width()).arg(picture.height())};
+  }
   QSaveFile file(name);
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data()) != bytes.size() || !file.commit()) {
     throw Failure{name, file.errorString()};

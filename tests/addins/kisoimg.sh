@@ -109,6 +109,12 @@ for target in target.ODD new.GIF; do
   expect_refusal "$target" write -1 handed.bmp "$work/$target"
   [ ! -e handed.bmp ] || fail "$target not written, and no sign of it"
 done
+# a kind for icons has sizes of its own: it refuses the others where its writer would shrink the picture
+convert -size 300x200 xc:red BMP3:wide.bmp
+for target in new.CUR new.ICNS; do
+  cp wide.bmp handed.bmp
+  expect_refusal "$target" write -1 handed.bmp "$work/$target"
+done
 for words in '' read 'read back.bmp' 'write back.bmp x.PNG' 'write 101 handed.bmp x.PNG' 'erase a b c'; do
   status=0
   kisoimg $words 2>said || status=$?
