@@ -74,7 +74,14 @@ void fail_if(bool failed, const std::string& what) {
   if (failed) throw ScriptError(what);
 }
 
+// No command makes a folder: a file comes with those that it needs.
+void make_folders_for(const std::string& file) {
+  std::error_code failed;  // shows when the file is written
+  fs::create_directories(fs::path(file).parent_path(), failed);
+}
+
 void copy(const Args& args) {
+  make_folders_for(args[1]);
   std::error_code failed;
   fs::copy_file(args[0], args[1], fs::copy_options::overwrite_existing, failed);
   fail_if(static_cast<bool>(failed), "can not copy " + args[0] + " to " + args[1]);
@@ -86,6 +93,7 @@ void remove(const Args& args) {
 }
 
 void write_lines(const Args& args, const char* line_end) {
+  make_folders_for(args[0]);
   std::ofstream file(args[0], std::ios::binary | std::ios::trunc);
   for (size_t i = 1; i < args.size(); ++i) file << args[i] << line_end;
   file.close();
