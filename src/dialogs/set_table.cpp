@@ -34,11 +34,11 @@ constexpr SetRow ROWS[] = {
     {{&w.RUN_BASE.items[0], page(1)},                    "ランチ１の設定"},
     {{&w.Check5.items[0], &w.RUN_BASE.items[0]},         "ランチしたアプリが終了したら自動的にKisoを起動する", &LAUNCH_BACK.items[0], 1},
     {{&w.LAN_SET.items[0], &w.RUN_BASE.items[0]},        "起動するファイルの指定"},
-    {{&w.LAN_NAME.items[0], &w.RUN_BASE.items[0], !BESIDE, 2}, "",                     &LAUNCH_EXE.items[0]},
+    {{&w.LAN_NAME.items[0], &w.RUN_BASE.items[0], !BESIDE, 3}, "",                     &LAUNCH_EXE.items[0]},
     {{&w.RUN_BASE.items[1], page(1)},                    "ランチ２の設定"},
     {{&w.Check5.items[1], &w.RUN_BASE.items[1]},         "ランチしたアプリが終了したら自動的にKisoを起動する", &LAUNCH_BACK.items[1], 1},
     {{&w.LAN_SET.items[1], &w.RUN_BASE.items[1]},        "起動するファイルの指定"},
-    {{&w.LAN_NAME.items[1], &w.RUN_BASE.items[1], !BESIDE, 2}, "",                     &LAUNCH_EXE.items[1]},
+    {{&w.LAN_NAME.items[1], &w.RUN_BASE.items[1], !BESIDE, 3}, "",                     &LAUNCH_EXE.items[1]},
 
     {{&w.Frame4, page(2)},                               "次回起動時に編集していた絵を読み込む"},
     {{&w.Option5.items[0], &w.Frame4},                   "読み込まない",               &RELOAD_MODE,      0, On::value,  &w.SW_RELOAD},

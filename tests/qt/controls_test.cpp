@@ -66,6 +66,33 @@ TEST_F(Controls, LabelShowsItsNewTextBeforeRefreshReturns) {
   });
 }
 
+// The lowest row that any letter reaches.
+int lowest_ink(QWidget* of) {
+  const QImage seen = of->grab().toImage();
+  for (int y = seen.height() - 1; y >= 0; --y) {
+    for (int x = 0; x < seen.width(); ++x) {
+      if (seen.pixelColor(x, y) != seen.pixelColor(seen.width() - 1, seen.height() - 1)) return y;
+    }
+  }
+  return -1;
+}
+
+TEST_F(Controls, LabelBreaksAWordThatIsWiderThanItself) {
+  const int line = QFontMetrics(widget(P.INF)->font()).lineSpacing();
+  logic([&] {
+    P.INF.Height(4 * line);
+    P.INF.Caption("mm mm");
+    P.Refresh();
+  });
+  EXPECT_LT(lowest_ink(widget(P.INF)), line);
+  const int letters = 2 * widget(P.INF)->width() / QFontMetrics(widget(P.INF)->font()).horizontalAdvance('m');
+  logic([&] {
+    P.INF.Caption(std::string(static_cast<size_t>(letters), 'm'));  // two lines of them, and no blank
+    P.Refresh();
+  });
+  EXPECT_GT(lowest_ink(widget(P.INF)), line);
+}
+
 TEST_F(Controls, ScrollBarFollowsTheModelWithoutAnEcho) {
   auto* bar = as<QScrollBar>(P.X_SC);
   logic([] {

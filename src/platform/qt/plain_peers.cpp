@@ -78,13 +78,15 @@ class LabelPeer final : public PointedPeer<forms::Label> {
   void timerEvent(QTimerEvent* /*event*/) override { hurry(); }
   void paint(QPainter& p, const QRect& all) override {
     if (!model_.transparent) p.fillRect(all, colour_of(model_.BackColor()));
-    const int align = model_.align == forms::Label::Align::left    ? Qt::AlignLeft | Qt::AlignTop
-                      : model_.align == forms::Label::Align::right ? Qt::AlignRight | Qt::AlignTop
-                                                                   : Qt::AlignCenter;
-    const int wrap = model_.AutoSize() ? 0 : Qt::TextWordWrap;
+    const Qt::Alignment align = model_.align == forms::Label::Align::left    ? Qt::AlignLeft | Qt::AlignTop
+                                : model_.align == forms::Label::Align::right ? Qt::AlignRight | Qt::AlignTop
+                                                                             : Qt::AlignCenter;
+    QTextOption lines(align);
+    // A path may have no blank to break at.
+    lines.setWrapMode(model_.AutoSize() ? QTextOption::NoWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
     p.setPen(colour_of(model_.is_enabled() ? model_.ForeColor() : 0x808080));
     const int inset = model_.border ? forms::Label::BORDER : 0;
-    p.drawText(all.adjusted(inset, inset, -inset, -inset), align | wrap, to_qt(model_.Caption()));
+    p.drawText(QRectF(all.adjusted(inset, inset, -inset, -inset)), to_qt(model_.Caption()), lines);
     if (!model_.border) return;
     p.setPen(border_colour());
     p.drawRect(all.adjusted(0, 0, -1, -1));
