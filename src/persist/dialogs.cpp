@@ -39,9 +39,10 @@ void put_dialog_away() {
   PAL_SHOW();
 }
 
+// The rows of add-ins, one past the last: a free row adds nothing, and a full table has none.
 std::string filter_of(const std::string& own_kinds, const RecordTexts& rows, int count) {
   std::string filter = own_kinds;
-  for (int i = 0; i < count; ++i) filter += rows(i);
+  for (int i = 0; i <= count && i < RECORD_ROWS; ++i) filter += rows(i);
   return filter;
 }
 

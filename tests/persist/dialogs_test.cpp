@@ -59,8 +59,9 @@ TEST(OpenDialog, TakesOneRowPastTheLast) {
   FR_CNT = 1;
   ask(OPEN_DIALOG, std::nullopt);
   EXPECT_EQ(given().Filter, std::string(OPEN_FILTER) + "PNG(*.PNG)|*.PNG|JPEG(*.JPG)|*.JPG|");
-  FR_CNT = 20;
-  ask(OPEN_DIALOG, std::nullopt);  // the table has just that row
+  FR_CNT = 21;
+  ask(OPEN_DIALOG, std::nullopt);  // a full table has no row past the last
+  EXPECT_EQ(given().Filter, std::string(OPEN_FILTER) + "PNG(*.PNG)|*.PNG|JPEG(*.JPG)|*.JPG|");
 }
 
 TEST(OpenDialog, RaisesTheReadersEndingsInPlaceAndSaveDialogDoesNot) {
