@@ -58,8 +58,8 @@ double rubber_moves(const Rubber& rubber, const std::vector<Place>& places) {
   select_tool(rubber.tool, 1);
   press(0, 0);
   if (rubber.hovers) {
-    move(VIEW_W / 2, VIEW_H / 2, 1);
-    release(VIEW_W / 2, VIEW_H / 2);
+    move(VIEW_W / 2.0F, VIEW_H / 2.0F, 1);
+    release(VIEW_W / 2.0F, VIEW_H / 2.0F);
   }
   const double time = timed([&] {
     for (const Place& p : places) move(p.x, p.y, rubber.hovers ? 0 : 1);

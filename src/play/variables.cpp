@@ -222,6 +222,8 @@ template <class... F>
 struct Cases : F... {
   using F::operator()...;
 };
+template <class... F>
+Cases(F...) -> Cases<F...>;  // clang 14 does not find it by itself
 
 }  // namespace
 

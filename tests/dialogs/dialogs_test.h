@@ -23,6 +23,7 @@ inline void tick(CheckBox& box, int value = 1) {
 }
 inline std::vector<std::string> lines_of(ListBox& list) {
   std::vector<std::string> lines;
+  lines.reserve(static_cast<size_t>(list.ListCount()));
   for (int i = 0; i < list.ListCount(); ++i) lines.push_back(list.List(i));
   return lines;
 }

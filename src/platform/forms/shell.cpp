@@ -84,6 +84,7 @@ int Shell(const std::string& line) {
   if (end < line.size())
     for (std::string& word : cut_at_blanks(line.substr(end + 1))) words.push_back(std::move(word));
   std::vector<char*> argv;
+  argv.reserve(words.size() + 1);
   for (std::string& word : words) argv.push_back(word.data());
   argv.push_back(nullptr);
   const SpawnActions with;

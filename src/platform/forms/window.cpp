@@ -1,6 +1,7 @@
 #include "platform/forms/window.h"
 
 #include <cmath>
+#include <ranges>
 
 #include "platform/error.h"
 #include "platform/forms/runtime.h"
@@ -50,7 +51,7 @@ bool Window::Unload() {
 }
 
 void Window::drop() {
-  for (auto c = controls_.rbegin(); c != controls_.rend(); ++c) (*c)->back_to_design();
+  for (Control* c : std::views::reverse(controls_)) c->back_to_design();
   peer.reset();
   went();
   loaded_ = visible_ = was_shown_ = false;
