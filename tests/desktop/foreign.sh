@@ -7,15 +7,16 @@
 real=$(readlink -f "$bin/addins/KISOIMG")
 cat >"$scratch/addin" <<END
 #!/bin/sh
-[ ! -e "$scratch/hold" ] || kill -STOP \$\$
+[ ! -e "$scratch/hold" ] || { echo \$\$ >"$scratch/held"; kill -STOP \$\$; }
 exec "$real" "\$@"
 END
 chmod +x "$scratch/addin"
 
 # kill_addin: the editor has started it and waits
 kill_addin() {
-  until_true "the add-in" pgrep -f "^/bin/sh $scratch/addin "
-  pkill -KILL -f "^/bin/sh $scratch/addin "
+  until_true "the add-in" test -s "$scratch/held"
+  kill -KILL "$(<"$scratch/held")"
+  rm "$scratch/held"
 }
 
 picture "$scratch/p.bmp"
