@@ -148,7 +148,7 @@ TEST_F(Pictures, ImageShowsItsCellOfTheSheet) {
       for (int x = 0; x < 24; ++x) EXPECT_EQ(seen.pixel(x, y), sheet.pixels[y * sheet.width + x]);
     }
     logic([] { TOOL.CMD_B(0).Cell("CMD_B_IMG", 0, 24); });
-    EXPECT_EQ(look_at(widget(TOOL.CMD_B(0))).pixel(0, 0), sheet.pixels[24 * sheet.width]);
+    EXPECT_EQ(look_at(widget(TOOL.CMD_B(0))).pixel(0, 0), sheet.pixels[ptrdiff_t{24} * sheet.width]);
   }
 }
 

@@ -8,7 +8,7 @@ using namespace stage;  // NOLINT(google-build-using-namespace)
 const Picture CORNER = {"rgb.....", "ybr.....", "........", "........"};
 const Picture CORNER_TWICE = {"rgb.....", "ybr.rgb.", "....ybr.", "........"};
 
-float in_block(int rate, int pixel) { return static_cast<float>(rate * pixel + rate / 2); }
+float in_block(int rate, int pixel) { return static_cast<float>(rate) * (static_cast<float>(pixel) + 0.5F); }
 
 void drag_blocks(int rate, int x1, int y1, int x2, int y2) {
   drag_area(11100, in_block(rate, x1), in_block(rate, y1), in_block(rate, x2), in_block(rate, y2));

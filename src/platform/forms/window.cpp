@@ -1,7 +1,7 @@
 #include "platform/forms/window.h"
 
+#include <algorithm>
 #include <cmath>
-#include <ranges>
 
 #include "platform/error.h"
 #include "platform/forms/runtime.h"
@@ -51,7 +51,7 @@ bool Window::Unload() {
 }
 
 void Window::drop() {
-  for (Control* c : std::views::reverse(controls_)) c->back_to_design();
+  std::for_each(controls_.rbegin(), controls_.rend(), [](Control* c) { c->back_to_design(); });
   peer.reset();
   went();
   loaded_ = visible_ = was_shown_ = false;
