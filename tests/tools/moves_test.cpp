@@ -45,7 +45,7 @@ TEST(Moves, OfPsetAndFreeLineTakeNoMemory) {
 }
 
 void wander(int button) {
-  for (int i = 0; i < 300; ++i) {
+  for (int i = 0; i < 100; ++i) {
     const auto x = static_cast<float>(i * 37 % 400 - 50);
     const auto y = static_cast<float>(i * 53 % 300 - 50);
     button == 1 ? drag(x, y) : hover(x, y);
