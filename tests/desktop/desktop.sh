@@ -229,12 +229,34 @@ choose_file() {
   until_true "the end of the dialog '$1'" eval "! box_is_open '$1'"
 }
 
-# Closes the window by the key of its frame; the end dialog's No saves the picture under its own name.
+# Closes the main window by the key of its frame. While the focus is on its way to another window a key is lost, so it is
+# given again if no question comes.
+close_by_key() {
+  local i
+  xdotool windowactivate "$window" key alt+F4
+  for ((i = 0; i < 60; i++)); do
+    box_is_open 'Kiso 終了' && return
+    sleep 0.05
+  done
+  return 1
+}
+
+# The end dialog's No saves the picture under its own name.
 end_with_save() {
-  xdotool key alt+F4
+  until_true "the question at the end" close_by_key
   answer 'Kiso 終了' 1
   choose_file "$SAVE_TITLE"
   answer 'Kiso ' 1
+  expect_end
+}
+
+end_without_save() {
+  until_true "the question at the end" close_by_key
+  answer 'Kiso 終了' 2
+  expect_end
+}
+
+expect_end() {
   until_true "the end of the program" not_running
   wait "$editor" || fail "the program ended with status $?"
 }

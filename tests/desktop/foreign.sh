@@ -46,9 +46,7 @@ awk '{ exit !($1 > 30) }' "$scratch/psnr" || fail "the JPEG is another picture: 
 # --- the add-in killed while it saves, and while it loads
 cp "$scratch/new.jpg" "$scratch/before.jpg"
 sed -i "s|^ADIN,KISOIMG,[^,]*|ADIN,KISOIMG,$scratch/addin|" "$scratch/home/KISO.AIN"
-xdotool key alt+F4
-answer 'Kiso 終了' 2
-until_true "the end of the program" not_running
+end_without_save
 open_editor "$scratch/p.bmp"
 touch "$scratch/hold"
 button $ROOT_GROUPS 1 0

@@ -19,13 +19,6 @@ drag_title() {
   xdotool mousemove_relative --sync -- $(($2 - $2 / 2)) $(($3 - $3 / 2)) mouseup 1
 }
 
-end_without_save() {
-  xdotool windowactivate --sync "$window" key alt+F4
-  answer 'Kiso 終了' 2
-  until_true "the end of the program" not_running
-  wait "$editor" || fail "the program ended with status $?"
-}
-
 picture "$scratch/p.bmp"
 open_editor "$scratch/p.bmp"
 until_true "the palettes" find_palettes
