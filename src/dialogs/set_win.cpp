@@ -129,8 +129,7 @@ void OK_Click() {
   AUTOSAVE_LEFT = AUTOSAVE_MIN;
   text::Kill(registry_copy());
   READ_AIN();
-  CMD_WIN.FILE_B(7).Enabled(TWSC_ON == 1);
-  CMD_WIN.FILE_B(7).Visible(TWSC_ON == 1);
+  SCANNER_BUTTON();
   SET_WIN.answered = true;
   SET_WIN.Unload();
 }

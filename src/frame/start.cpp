@@ -66,7 +66,7 @@ void reload_last_picture() {
   splash_win::show_status("Loading..\r" + PIC_FILE);
   int result = 0;
   LOAD_PICTURE(PIC_FILE, result);
-  P_WIN.Caption(APP_TITLE + ":" + PIC_FILE);
+  SHOW_NAME(PIC_FILE);
 }
 
 // A picture of the command line has touched the palettes before the settings were read.
@@ -96,6 +96,8 @@ void PAL_HIDE() {
   COL_WIN.Hide();
 }
 
+void SHOW_NAME(const std::string& name) { P_WIN.Caption(APP_TITLE + ":" + name); }
+
 void p_win::Form_Load() {
   LOADING_FLAG = 1;
   QUIT_NOW = 0;
@@ -107,7 +109,7 @@ void p_win::Form_Load() {
   APP_TITLE = "Kiso ";
   ask_for_deep_display();
   READ_AIN();
-  P_WIN.Caption(APP_TITLE + ":" + first_picture());
+  SHOW_NAME(first_picture());
   start_values();
   splash_win::show_status("Initilizing from kiso.cnf...");
   READ_CNF();

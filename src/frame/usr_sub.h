@@ -13,6 +13,7 @@ void START_PROGRAM(const std::string& command_line);  // loads P_WIN with that c
 void END_PROGRAM(int& result);
 void PAL_SHOW();  // nothing while P_WIN loads or when the palettes are not wanted
 void PAL_HIDE();
+void SHOW_NAME(const std::string& name);  // the main window's caption tells what is edited
 
 // --- frame: view. Coordinates are DRAW pixels unless told otherwise.
 void VIEW_FIT();     // recomputes the view from the window's size and repaints
@@ -36,6 +37,7 @@ void SET_CURSOR(const std::string& word);  // "LUPE", "SPOIT", "PAINT", "WAIT"; 
 
 // --- palette
 void UNDO_BUTTON(int n);  // 0 or 1 enables the UNDO button, any other number disables it
+void SCANNER_BUTTON();    // FILE_B(7) is there as long as a scanner is installed
 
 // --- colour
 // r, g, b 0 to 255; h in degrees 0 up to 360, s and v 0 to 1. Greys have h 0 and s 0.
@@ -61,6 +63,8 @@ inline void unpack_colour(Colour pixel, int32_t& r, int32_t& g, int32_t& b) {
 // --- persist
 // result: 0 loaded, 1 no such add-in, -1 failed, -2 unsupported extension, -5 file not found.
 void LOAD_PICTURE(const std::string& name, int& result);
+// Loads what the user has chosen. The name stays with PIC_FILE and the caption also if it can not be loaded.
+void LOAD_CHOSEN(const std::string& name);
 // False if the file could not be written; the user has been told.
 bool SAVE_PICTURE(const std::string& name);
 // What a new picture in PIC starts with: its size taken over, shown from its origin, the current tool ready.

@@ -120,8 +120,7 @@ void Form_Load() {
   CMD_WIN.Top(CMD_TOP);
   CMD_WIN.Left(CMD_LEFT);
   CMD_WIN.Caption(APP_TITLE);
-  CMD_WIN.FILE_B(7).Enabled(TWSC_ON == 1);  // no scanner, no button
-  CMD_WIN.FILE_B(7).Visible(TWSC_ON == 1);
+  SCANNER_BUTTON();
   CMD_WIN.Top(COL_WIN.Height() + 1);  // whatever was stored: the palette opens below the colour window
 }
 
@@ -131,6 +130,11 @@ void Form_Unload(int& /*cancel*/) {
 }
 
 }  // namespace cmd_win
+
+void SCANNER_BUTTON() {
+  CMD_WIN.FILE_B(7).Enabled(TWSC_ON == 1);
+  CMD_WIN.FILE_B(7).Visible(TWSC_ON == 1);
+}
 
 void UNDO_BUTTON(int n) { CMD_WIN.UNDO.Enabled(n == 0 || n == 1); }
 

@@ -8,19 +8,13 @@ namespace kiso {
 
 namespace {
 
-void show_name(const std::string& name) { P_WIN.Caption(APP_TITLE + ":" + name); }
-
-// A failed load leaves the name that failed.
 void load() {
   int result = 0;
   CONFIRM_REPLACE(result);
   if (result != 0) return;
   std::string name;
   OPEN_DIALOG(result, name);
-  if (name.empty() || result != 0) return;
-  LOAD_PICTURE(name, result);
-  PIC_FILE = name;
-  show_name(PIC_FILE);
+  if (!name.empty() && result == 0) LOAD_CHOSEN(name);
 }
 
 void save() {
@@ -30,7 +24,7 @@ void save() {
   SAVE_PICTURE(name);
   TOOL_CHANGED();
   PIC_FILE = name;
-  show_name(PIC_FILE);
+  SHOW_NAME(PIC_FILE);
 }
 
 void load_from_clipboard() {
@@ -46,7 +40,7 @@ void load_from_clipboard() {
   PIC.Picture(std::move(picture));
   PIC.AutoSize(false);
   SHOW_NEW_PICTURE();
-  show_name("ClipBoard");
+  SHOW_NAME("ClipBoard");
 }
 
 void save_to_clipboard() {

@@ -35,10 +35,7 @@ void p_win::DROP_WNDPROC(const std::vector<std::string>& files) {
   dropping = true;
   const std::string name = cut(files[0]);
   if (MsgBox(name + "がドロップされました\r現在の画像は保存されませんがそれでもよろしいですか?", 36, APP_TITLE) != NO) {
-    int result = 0;
-    LOAD_PICTURE(name, result);
-    PIC_FILE = name;
-    P_WIN.Caption(APP_TITLE + ":" + PIC_FILE);
+    LOAD_CHOSEN(name);
   }
   dropping = false;
 }

@@ -157,6 +157,13 @@ void LOAD_PICTURE(const std::string& name, int& result) {
   SHOW_NEW_PICTURE();
 }
 
+void LOAD_CHOSEN(const std::string& name) {
+  int result = 0;
+  LOAD_PICTURE(name, result);
+  PIC_FILE = name;
+  SHOW_NAME(name);
+}
+
 // Timer2 stays off after a save, until a picture is loaded: the clock of the auto save stands still.
 bool SAVE_PICTURE(const std::string& name) {
   SET_CURSOR("WAIT");

@@ -199,6 +199,17 @@ button() {
   click_in "$palette" $((4 + 24 * $3 + 12)) $(($1 + 24 * $2 + 12))
 }
 
+# shape TOP ROW COLUMN X1 Y1 X2 Y2 PROBE_X PROBE_Y CONVERT_ARGUMENT...: chooses a shape by its button, drags it, and looks
+# for it and those before it
+wanted=()
+shape() {
+  button "${@:1:3}"
+  drag "${@:4:6}"
+  wanted+=("${@:10}")
+  picture "$scratch/wanted.bmp" -fill black "${wanted[@]}"
+  expect_shows "$scratch/wanted.bmp"
+}
+
 # answer TITLE STEPS: takes the button of the box of that title which is STEPS to the left of the one that is proposed
 answer() {
   local i box
