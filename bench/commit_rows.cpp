@@ -2,8 +2,8 @@
 #include <cstring>
 
 #include "editor.h"
-#include "frame/read_back.h"
 #include "harness.h"
+#include "platform/raster/read_back.h"
 
 namespace bench {
 

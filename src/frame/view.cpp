@@ -1,9 +1,9 @@
 // The view: DRAW is a window on PIC, and what is painted on DRAW is read back into PIC.
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
-#include "frame/read_back.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
+#include "platform/raster/read_back.h"
 
 namespace kiso {
 

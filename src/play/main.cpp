@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "platform/raster/fast.h"
 #include "platform/text/program_directory.h"
 #include "play/options.h"
 #include "play/play_desktop.h"
@@ -47,7 +48,7 @@ struct Scratch {
 };
 
 int usage() {
-  std::fputs("kiso-play [--home DIR] [--depth 32|24|16|8] [--screen WxH] SCRIPT [ARG ...]\n", stderr);
+  std::fputs("kiso-play [--home DIR] [--depth 32|24|16|8] [--screen WxH] [--plain] SCRIPT [ARG ...]\n", stderr);
   return UNREADABLE;
 }
 
@@ -64,10 +65,16 @@ void lay_out_home(const std::string& home) {
 int run(int argc, char** argv) {
   std::string home;
   int at = 1;
-  for (; at + 1 < argc && std::string(argv[at]).starts_with("--"); at += 2) {
-    if (std::string(argv[at]) == "--home") {
-      home = fs::absolute(argv[at + 1]).string();
-    } else if (!take_option(argv[at], argv[at + 1])) {
+  while (at + 1 < argc && std::string(argv[at]).starts_with("--")) {
+    const std::string name = argv[at++];
+    if (name == "--plain") {
+      raster::use_fast_forms(false);
+      continue;
+    }
+    const std::string value = argv[at++];
+    if (name == "--home") {
+      home = fs::absolute(value).string();
+    } else if (!take_option(name, value)) {
       return usage();
     }
   }

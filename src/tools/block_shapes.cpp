@@ -4,8 +4,8 @@
 #include <cstdlib>
 
 #include "frame/p_win.h"
-#include "frame/read_back.h"
 #include "frame/usr_sub.h"
+#include "platform/raster/read_back.h"
 #include "tools/tools.h"
 
 namespace kiso {

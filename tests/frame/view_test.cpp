@@ -1,7 +1,4 @@
 // The view on the picture: its size, its scroll bars, what a commit reads back, and zooming.
-#include <random>
-
-#include "frame/read_back.h"
 #include "stage.h"
 
 namespace {
@@ -143,25 +140,6 @@ TEST(View, LabelsRestWhileTheStatusLineIsOff) {
   EXPECT_EQ(INF_POSY.Caption(), "Y= 6");
   EXPECT_EQ(INF_SUB.Caption(), "?");
   EXPECT_EQ(INF_CMD.Caption(), "Pset");
-}
-
-TEST(View, ReadingBackByRowsIsReadingBackByColumns) {
-  std::mt19937 random(7);
-  for (const int rate : {2, 4, 8, 16}) {
-    for (const int h : {1, 2, 7}) {
-      raster::Surface source(9 * rate, h * rate);
-      for (int y = 0; y < source.height(); ++y) {
-        for (int x = 0; x < source.width(); ++x) SetPixelV(source, x, y, random() & 0xFFFFFF);
-      }
-      raster::Surface fast(12, 10), plain(12, 10);
-      read_back(fast, 2, 1, 9, h, source, rate);
-      read_back_by_columns(plain, 2, 1, 9, h, source, rate);
-      for (int y = 0; y < 10; ++y) {
-        for (int x = 0; x < 12; ++x)
-          ASSERT_EQ(GetPixel(fast, x, y), GetPixel(plain, x, y)) << rate << " " << x << " " << y;
-      }
-    }
-  }
 }
 
 TEST(View, AScrollOfOneStepTakesUndoAway) {

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "platform/raster/bmp_pack.h"
+#include "platform/raster/fast.h"
 #include "raster/picture_builder.h"
 
 using namespace raster;
@@ -283,12 +284,16 @@ TEST(BmpPack, PlainAndFastGiveTheSame) {
     Bytes bgr(static_cast<size_t>(3 * n));  // exactly as long as the row, so that the sanitizer sees a byte too much
     for (auto& byte : bgr) byte = static_cast<uint8_t>(random());
     std::vector<uint32_t> plain(static_cast<size_t>(n)), fast(static_cast<size_t>(n));
-    expand_24_plain(bgr.data(), plain.data(), n);
+    use_fast_forms(false);
+    expand_24(bgr.data(), plain.data(), n);
+    use_fast_forms(true);
     expand_24(bgr.data(), fast.data(), n);
     ASSERT_EQ(plain, fast) << n;
     for (auto& pixel : plain) pixel ^= static_cast<uint32_t>(random()) << 24;  // the fourth byte must not matter
     Bytes packed_plain(bgr.size()), packed_fast(bgr.size());
-    pack_24_plain(plain.data(), packed_plain.data(), n);
+    use_fast_forms(false);
+    pack_24(plain.data(), packed_plain.data(), n);
+    use_fast_forms(true);
     pack_24(plain.data(), packed_fast.data(), n);
     ASSERT_EQ(packed_plain, bgr) << n;
     ASSERT_EQ(packed_fast, bgr) << n;

@@ -1,3 +1,4 @@
+#include "platform/raster/fast.h"
 #include "raster_testing.h"
 
 namespace raster {
@@ -58,7 +59,8 @@ void make_speckles(Surface& s, Random& random, uint32_t black) {
 
 TEST(Flood, FillsWhatIsConnectedAtEveryDepth) {
   Random random(30);
-  for (int round = 0; round < 600; ++round) {
+  for (int round = 0; round < 900; ++round) {
+    use_fast_forms(round % 3 != 0);
     static constexpr int DEPTHS[] = {32, 32, 24, 16, 8};
     Surface s(between(random, 1, 150), between(random, 1, 60), DEPTHS[random() % 5]);
     static constexpr uint32_t BLACKS[] = {0, 2, 50, 250, 400, 450, 600};

@@ -1,3 +1,4 @@
+#include "platform/raster/fast.h"
 #include "raster_testing.h"
 
 namespace raster {
@@ -15,7 +16,8 @@ Colour held(const Surface& s, Colour c) { return s.to_colour(s.to_pixel(c)); }
 
 TEST(BitBlt, TakesEachPixelFromItsPlaceOfTheSource) {
   Random random(20);
-  for (int round = 0; round < 1500; ++round) {
+  for (int round = 0; round < 2000; ++round) {
+    use_fast_forms(random() % 4 != 0);
     Surface dest(between(random, 1, 40), between(random, 1, 30), DEPTHS[random() % 4]);
     Surface src(between(random, 1, 40), between(random, 1, 30), DEPTHS[random() % 4]);
     make_noise(dest, random);
@@ -108,7 +110,8 @@ void expect_stretched(Random& random, Surface& dest, const Surface& src, const S
 
 TEST(StretchBlt, TakesEachPixelFromItsGroup) {
   Random random(21);
-  for (int round = 0; round < 1500; ++round) {
+  for (int round = 0; round < 2000; ++round) {
+    use_fast_forms(random() % 4 != 0);
     // depth 32 has loops of its own
     Surface dest(between(random, 1, 40), between(random, 1, 30), random() % 2 == 0 ? 32 : DEPTHS[random() % 4]);
     Surface src(between(random, 1, 40), between(random, 1, 30), random() % 2 == 0 ? 32 : DEPTHS[random() % 4]);
@@ -125,6 +128,7 @@ TEST(StretchBlt, TakesEachPixelFromItsGroup) {
 TEST(StretchBlt, ZoomsAndReadsBackWholeBlocks) {
   Random random(22);
   for (int round = 0; round < 300; ++round) {
+    use_fast_forms(random() % 4 != 0);
     const int rate = 1 << random() % 4;
     Surface view(between(random, 20, 90), between(random, 20, 90)), picture(between(random, 5, 40), 12);
     make_noise(picture, random);

@@ -2,11 +2,11 @@
 
 #include <cstddef>
 
-#if defined(__x86_64__)
-#include <immintrin.h>
-#endif
+#include "platform/raster/fast.h"
 
 namespace raster {
+
+namespace {
 
 void expand_24_plain(const uint8_t* bgr, uint32_t* pixels, int n) {
   for (int i = 0; i < n; ++i, bgr += 3) {
@@ -22,10 +22,10 @@ void pack_24_plain(const uint32_t* pixels, uint8_t* bgr, int n) {
   }
 }
 
-#if defined(__x86_64__)
+#if defined(RASTER_AVX2)
 
 // Both stop where a load or store of whole registers would leave the row, and answer the pixels done.
-__attribute__((target("avx2"))) static int expand_24_avx2(const uint8_t* bgr, uint32_t* pixels, int n) {
+RASTER_AVX2 int expand_24_avx2(const uint8_t* bgr, uint32_t* pixels, int n) {
   const __m256i spread = _mm256_setr_epi8(0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1,  //
                                           0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1);
   const __m256i opaque = _mm256_set1_epi32(static_cast<int>(0xFF000000u));
@@ -40,7 +40,7 @@ __attribute__((target("avx2"))) static int expand_24_avx2(const uint8_t* bgr, ui
   return i;
 }
 
-__attribute__((target("avx2"))) static int pack_24_avx2(const uint32_t* pixels, uint8_t* bgr, int n) {
+RASTER_AVX2 int pack_24_avx2(const uint32_t* pixels, uint8_t* bgr, int n) {
   const __m256i squeeze = _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1,  //
                                            0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1);
   const __m256i join = _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 3, 7);
@@ -53,23 +53,23 @@ __attribute__((target("avx2"))) static int pack_24_avx2(const uint32_t* pixels, 
   return i;
 }
 
-static bool has_avx2() { return __builtin_cpu_supports("avx2"); }
-
-#else
-
-static int expand_24_avx2(const uint8_t*, uint32_t*, int) { return 0; }
-static int pack_24_avx2(const uint32_t*, uint8_t*, int) { return 0; }
-static bool has_avx2() { return false; }
-
 #endif
 
+}  // namespace
+
 void expand_24(const uint8_t* bgr, uint32_t* pixels, int n) {
-  const int done = has_avx2() ? expand_24_avx2(bgr, pixels, n) : 0;
+  int done = 0;
+#if defined(RASTER_AVX2)
+  if (avx2()) done = expand_24_avx2(bgr, pixels, n);
+#endif
   expand_24_plain(bgr + ptrdiff_t{3} * done, pixels + done, n - done);
 }
 
 void pack_24(const uint32_t* pixels, uint8_t* bgr, int n) {
-  const int done = has_avx2() ? pack_24_avx2(pixels, bgr, n) : 0;
+  int done = 0;
+#if defined(RASTER_AVX2)
+  if (avx2()) done = pack_24_avx2(pixels, bgr, n);
+#endif
   pack_24_plain(pixels + done, bgr + ptrdiff_t{3} * done, n - done);
 }
 

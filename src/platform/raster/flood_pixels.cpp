@@ -1,6 +1,6 @@
 #include <bit>
 
-#include "platform/raster/avx2.h"
+#include "platform/raster/fast.h"
 #include "platform/raster/flood.h"
 #include "platform/raster/pixel.h"
 
@@ -75,14 +75,14 @@ RASTER_AVX2 void paint_avx2(Surface& s, int band, int first, int last, uint32_t 
 
 void flood_compare(const Surface& s, int band, int first, int end, const FloodRule& rule, FloodBlock* blocks) {
 #if defined(RASTER_AVX2)
-  if (s.depth() == 32 && has_avx2()) return compare_avx2(s, band, first, end, rule, blocks);
+  if (s.depth() == 32 && avx2()) return compare_avx2(s, band, first, end, rule, blocks);
 #endif
   compare_plain(s, band, first, end, rule, blocks);
 }
 
 void flood_paint(Surface& s, int band, int first, int last, uint32_t pixel, const FloodBlock* blocks) {
 #if defined(RASTER_AVX2)
-  if (s.depth() == 32 && has_avx2()) return paint_avx2(s, band, first, last, pixel, blocks);
+  if (s.depth() == 32 && avx2()) return paint_avx2(s, band, first, last, pixel, blocks);
 #endif
   paint_plain(s, band, first, last, pixel, blocks);
 }

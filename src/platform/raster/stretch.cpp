@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "platform/raster/draw.h"
+#include "platform/raster/fast.h"
 #include "platform/raster/line_buffer.h"
 #include "platform/raster/pixel.h"
 
@@ -220,7 +221,7 @@ void StretchBlt(Surface& dest, int x, int y, int w, int h, const Surface& src, i
 
   const bool one_each =
       single || (std::abs(int64_t{w}) >= std::abs(int64_t{sw}) && std::abs(int64_t{h}) >= std::abs(int64_t{sh}));
-  if (one_each && rop == SRCCOPY && dest.depth() == 32 && src.depth() == 32)
+  if (fast_forms() && one_each && rop == SRCCOPY && dest.depth() == 32 && src.depth() == 32)
     return copy_singles(dest, columns, rows, src);
   gather_rows(dest, columns, rows, src, rop, mode);
 }

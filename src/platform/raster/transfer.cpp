@@ -1,6 +1,7 @@
 #include <cstring>
 
 #include "platform/raster/draw.h"
+#include "platform/raster/fast.h"
 #include "platform/raster/line_buffer.h"
 #include "platform/raster/pixel.h"
 
@@ -77,14 +78,9 @@ void BitBlt(Surface& dest, int x, int y, int w, int h, const Surface& src, int s
   const int left = static_cast<int>(dx), top = static_cast<int>(dy), width = static_cast<int>(nx),
             height = static_cast<int>(ny), from_x = static_cast<int>(fx), from_y = static_cast<int>(fy);
   dest.touch(left, top, left + width, top + height);
-  if (rop == SRCCOPY && dest.depth() == src.depth()) {
-    copy_rows(dest, left, top, width, height, src, from_x, from_y);
-    return;
-  }
-  if (rop != SRCCOPY && dest.depth() == src.depth() && &dest != &src) {
-    combine_rows(dest, left, top, width, height, src, from_x, from_y, rop);
-    return;
-  }
+  const bool as_bytes = fast_forms() && dest.depth() == src.depth();
+  if (as_bytes && rop == SRCCOPY) return copy_rows(dest, left, top, width, height, src, from_x, from_y);
+  if (as_bytes && &dest != &src) return combine_rows(dest, left, top, width, height, src, from_x, from_y, rop);
   uint32_t line[MAX_SIDE];
   const bool upward = &dest == &src && top > from_y;
   for (int i = 0; i < height; ++i) {

@@ -2,13 +2,11 @@
 // of it.
 #pragma once
 
-#include "frame/usr_def.h"
+#include "platform/raster/surface.h"
 
-namespace kiso {
+namespace raster {
 
 // w x h picture pixels of dest from x, y on, from the blocks of rate x rate pixels of source, from its top left.
 void read_back(Surface& dest, int x, int y, int w, int h, const Surface& source, int rate);
-// The same, column by column, as the platform's stretch gives it.
-void read_back_by_columns(Surface& dest, int x, int y, int w, int h, const Surface& source, int rate);
 
-}  // namespace kiso
+}  // namespace raster
