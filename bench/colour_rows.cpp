@@ -1,5 +1,5 @@
 // All 16,777,216 colours through both conversions.
-#include "frame/usr_sub.h"
+#include "colour/colour.h"
 #include "harness.h"
 
 namespace bench {

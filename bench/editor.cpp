@@ -1,10 +1,11 @@
 #include "editor.h"
+#include "program/program.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
-#include "frame/cmd_win.h"
+#include "palette/cmd_win.h"
 
 namespace bench {
 

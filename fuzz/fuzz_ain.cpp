@@ -1,5 +1,5 @@
 // Any bytes as the registry and as its template.
-#include "frame/addins.h"
+#include "addin/addin.h"
 #include "keyed_file_dir.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // Any bytes as the parameter file of an add-in that is installed.
-#include "frame/addins.h"
+#include "addin/addin.h"
 #include "keyed_file_dir.h"
 
 namespace {

@@ -1,5 +1,6 @@
 // Any bytes as the settings file and as its template.
 #include "keyed_file_dir.h"
+#include "persist/persist.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace kiso;

@@ -9,10 +9,10 @@
 #include <fstream>
 #include <string>
 
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 
 namespace kiso {
 

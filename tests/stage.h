@@ -13,12 +13,13 @@
 #include <string>
 #include <vector>
 
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
 #include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 #include "platform/forms/dialogs.h"
+#include "program/program.h"
 
 namespace stage {
 

@@ -1,5 +1,5 @@
 // What carries every run of an add-in: the name of a temporary file, the expansion of a command template, and the wait.
-#include "frame/usr_sub.h"
+#include "addin/addin.h"
 #include "platform/forms/shell.h"
 #include "platform/text/paths.h"
 #include "platform/text/program_directory.h"

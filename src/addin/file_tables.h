@@ -1,7 +1,7 @@
 // The readers and the writers of picture files, which are kept and installed alike.
 #pragma once
 
-#include "frame/addins.h"
+#include "addin/addin.h"
 
 namespace kiso {
 

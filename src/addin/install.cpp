@@ -1,7 +1,7 @@
 // An add-in comes in by its parameter file, which lies beside its program.
+#include "addin/addin.h"
 #include "addin/file_tables.h"
 #include "addin/record.h"
-#include "frame/usr_sub.h"
 #include "platform/text/files.h"
 #include "platform/text/paths.h"
 #include "platform/text/text.h"

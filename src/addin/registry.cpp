@@ -1,7 +1,7 @@
 // KISO.AIN: which external programs are installed and what they do.
+#include "addin/addin.h"
 #include "addin/file_tables.h"
 #include "addin/record.h"
-#include "frame/usr_sub.h"
 #include "platform/text/files.h"
 #include "platform/text/paths.h"
 #include "platform/text/text.h"

@@ -5,11 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "frame/usr_sub.h"
+#include "addin/addin.h"
 #include "platform/qt/desktop.h"
 #include "platform/text/files.h"
 #include "platform/text/paths.h"
 #include "platform/text/program_directory.h"
+#include "program/program.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Pane R/H: two groups of three bars that follow each other. Each group has a lock that is set while code moves its
 // bars, so that their Change events, which fire at once, do not come back to the colour.
 #include "colour/col_win_rules.h"
-#include "frame/usr_sub.h"
+#include "colour/colour.h"
 #include "platform/text/text.h"
 
 namespace kiso::col_win {

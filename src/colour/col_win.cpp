@@ -1,7 +1,8 @@
 // The colour window: its top, its panes and the buttons that exchange them, its place on the screen.
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 
 #include "colour/col_win_rules.h"
+#include "colour/colour.h"
 #include "frame/usr_sub.h"
 
 namespace kiso {

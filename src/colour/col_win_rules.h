@@ -1,7 +1,7 @@
 // What the panes of the colour window share. A pane is designed and wired by its own file.
 #pragma once
 
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 
 namespace kiso::col_win {
 

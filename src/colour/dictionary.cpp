@@ -1,8 +1,8 @@
 // The colour dictionary at work: its cells in COL_WIN, and the letter keys that fetch and store a colour.
 #include <algorithm>
 
-#include "frame/col_win.h"
-#include "frame/usr_sub.h"
+#include "colour/col_win.h"
+#include "colour/colour.h"
 
 namespace kiso {
 

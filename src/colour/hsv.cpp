@@ -2,7 +2,7 @@
 // results, which the tools compare, so it stays as it is.
 #include <algorithm>
 
-#include "frame/usr_sub.h"
+#include "colour/colour.h"
 
 namespace kiso {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "colour/col_win_rules.h"
-#include "frame/usr_sub.h"
+#include "colour/colour.h"
 
 namespace kiso::col_win {
 

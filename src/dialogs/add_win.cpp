@@ -1,11 +1,11 @@
-#include "frame/add_win.h"
+#include "dialogs/add_win.h"
 
 #include <vector>
 
+#include "addin/addin.h"
 #include "dialogs/dialogs.h"
-#include "frame/addins.h"
-#include "frame/set_win.h"
-#include "frame/usr_sub.h"
+#include "dialogs/set_win.h"
+#include "persist/persist.h"
 #include "platform/forms/layout.h"
 
 namespace kiso {

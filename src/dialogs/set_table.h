@@ -4,7 +4,7 @@
 #include <span>
 #include <variant>
 
-#include "frame/set_win.h"
+#include "dialogs/set_win.h"
 #include "platform/forms/layout.h"
 
 namespace kiso::set_win {

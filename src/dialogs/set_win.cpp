@@ -1,17 +1,18 @@
 // Settings are variables and reach KISO.CNF at the end of the program. The add-in registry is changed at once, so the
 // window keeps a copy of its file, from which Cancel puts it back.
-#include "frame/set_win.h"
+#include "dialogs/set_win.h"
 
 #include <algorithm>
 
+#include "addin/addin.h"
+#include "colour/col_win.h"
+#include "dialogs/add_win.h"
 #include "dialogs/dialogs.h"
 #include "dialogs/set_table.h"
-#include "frame/add_win.h"
-#include "frame/addins.h"
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
 #include "frame/p_win.h"
-#include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
+#include "palette/palette.h"
+#include "persist/persist.h"
 #include "platform/text/files.h"
 
 namespace kiso {

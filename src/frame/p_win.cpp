@@ -1,7 +1,6 @@
 #include "frame/p_win.h"
 
 #include "frame/p_win_events.h"
-#include "frame/usr_sub.h"
 
 namespace kiso {
 

@@ -1,13 +1,14 @@
 #include "palette/cmd_click.h"
 
+#include "dialogs/set_win.h"
 #include "frame/p_win.h"
-#include "frame/set_win.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
-#include "palette/about_win.h"
 #include "palette/file_commands.h"
-#include "palette/help_win.h"
+#include "palette/palette.h"
+#include "persist/persist.h"
 #include "platform/text/text.h"
+#include "windows/windows.h"
 
 namespace kiso {
 

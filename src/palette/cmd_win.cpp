@@ -1,10 +1,11 @@
 // CMD_WIN itself: its design out of the palette's rows, its events, its place on the screen.
-#include "frame/cmd_win.h"
+#include "palette/cmd_win.h"
 
-#include "frame/addins.h"
-#include "frame/col_win.h"
+#include "addin/addin.h"
+#include "colour/col_win.h"
 #include "frame/usr_sub.h"
 #include "palette/cmd_click.h"
+#include "palette/palette.h"
 #include "palette/palette_table.h"
 #include "platform/text/text.h"
 

@@ -2,6 +2,7 @@
 
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "persist/persist.h"
 #include "platform/forms/clipboard.h"
 
 namespace kiso {

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "frame/cmd_win.h"
+#include "palette/cmd_win.h"
 
 namespace kiso {
 

@@ -3,10 +3,10 @@
 // changes.
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
-#include "frame/usr_sub.h"
-#include "frame/wait_win.h"
 #include "platform/error.h"
 #include "platform/text/paths.h"
+#include "windows/wait_win.h"
+#include "windows/windows.h"
 
 namespace kiso {
 

@@ -1,7 +1,8 @@
 // The file dialogs, and what is asked before a picture is replaced.
-#include "frame/addins.h"
-#include "frame/d_form.h"
+#include "addin/addin.h"
 #include "frame/usr_sub.h"
+#include "persist/d_form.h"
+#include "persist/persist.h"
 #include "platform/error.h"
 #include "platform/forms/clipboard.h"
 #include "platform/text/files.h"

@@ -1,8 +1,9 @@
 // KISO.CDI: the colour dictionaries. Read once at the start; rewritten over its own lines, so that its structure, order
 // and comments stay its user's and only the values are the program's.
-#include "frame/col_win.h"
-#include "frame/usr_sub.h"
+#include "colour/col_win.h"
+#include "colour/colour.h"
 #include "persist/keyed_file.h"
+#include "persist/persist.h"
 #include "platform/text/files.h"
 #include "platform/text/text.h"
 

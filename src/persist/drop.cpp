@@ -4,7 +4,7 @@
 
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
-#include "frame/usr_sub.h"
+#include "persist/persist.h"
 #include "platform/text/text.h"
 
 namespace kiso {

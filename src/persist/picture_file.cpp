@@ -2,9 +2,10 @@
 // given a temporary BMP file.
 #include <optional>
 
-#include "frame/addins.h"
+#include "addin/addin.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "persist/persist.h"
 #include "platform/text/files.h"
 #include "platform/text/paths.h"
 #include "platform/text/text.h"

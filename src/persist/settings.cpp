@@ -7,11 +7,11 @@
 #include <string_view>
 #include <variant>
 
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 #include "frame/p_win.h"
-#include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 #include "persist/keyed_file.h"
+#include "persist/persist.h"
 #include "platform/text/files.h"
 #include "platform/text/text.h"
 

@@ -1,5 +1,4 @@
 // Pictures that go out, and questions that print their answer.
-#include "frame/usr_sub.h"
 #include "platform/forms/clipboard.h"
 #include "platform/qt/images.h"
 #include "platform/text/text.h"

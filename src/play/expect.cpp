@@ -1,7 +1,6 @@
 // Expectations: each holds or is told on standard error, and the run goes on.
 #include <filesystem>
 
-#include "frame/usr_sub.h"
 #include "platform/qt/images.h"
 #include "platform/text/disk.h"
 #include "platform/text/encoding.h"

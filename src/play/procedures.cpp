@@ -1,5 +1,8 @@
 // The shared procedures that a script can call.
+#include "addin/addin.h"
+#include "colour/colour.h"
 #include "frame/usr_sub.h"
+#include "persist/persist.h"
 #include "platform/text/program_directory.h"
 #include "platform/text/text.h"
 #include "play/player.h"

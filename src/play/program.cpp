@@ -5,10 +5,10 @@
 #include <map>
 
 #include "frame/p_win.h"
-#include "frame/usr_sub.h"
 #include "play/names.h"
 #include "play/options.h"
 #include "play/player.h"
+#include "program/program.h"
 
 namespace play {
 

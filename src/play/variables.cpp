@@ -3,10 +3,10 @@
 #include <cmath>
 #include <limits>
 
-#include "frame/addins.h"
-#include "frame/cmd_win.h"
+#include "addin/addin.h"
+#include "dialogs/set_win.h"
 #include "frame/p_win.h"
-#include "frame/set_win.h"
+#include "palette/cmd_win.h"
 #include "play/script.h"
 
 namespace play {

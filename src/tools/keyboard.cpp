@@ -1,10 +1,11 @@
 // The keys of the picture: scrolling, pen size, the keypad as a pointer, undo, colours.
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
+#include "colour/colour.h"
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 
 namespace kiso {
 

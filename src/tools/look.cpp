@@ -1,7 +1,8 @@
 // The tools that change no pixel: the Spoit, which picks a colour, and the zoom tools.
-#include "frame/cmd_win.h"
+#include "colour/colour.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 #include "tools/tools.h"
 
 namespace kiso {

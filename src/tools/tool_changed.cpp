@@ -1,8 +1,9 @@
 // What a change of tool shows: marks, cursor, floating surfaces, parameter windows, status text.
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
+#include "palette/palette.h"
 #include "tools/tool_table.h"
 
 namespace kiso {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/addins.h"
+#include "addin/addin.h"
 #include "persist/program_dir.h"
 #include "stage.h"
 

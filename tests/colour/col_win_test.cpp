@@ -1,4 +1,5 @@
 // The colour window: its colour boxes, the matrix of pure colours, the bars that follow each other.
+#include "colour/colour.h"
 #include "colour/colour_test.h"
 
 namespace kiso {

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 
 namespace kiso {
 

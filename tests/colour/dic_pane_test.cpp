@@ -1,4 +1,5 @@
 // Pane Dic: reading and writing cells by click and by letter, names, the two modes.
+#include "colour/colour.h"
 #include "colour/colour_test.h"
 
 namespace kiso {

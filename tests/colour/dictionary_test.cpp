@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
+#include "colour/colour.h"
 #include "frame/p_win.h"
-#include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 
 namespace kiso {
 namespace {

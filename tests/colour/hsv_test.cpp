@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "frame/usr_sub.h"
+#include "colour/colour.h"
 
 namespace kiso {
 namespace {

@@ -1,6 +1,8 @@
 // The working colour and the two pens, the level bars, the progress of a long command.
+#include "colour/colour.h"
 #include "colour/colour_test.h"
-#include "frame/wait_win.h"
+#include "windows/wait_win.h"
+#include "windows/windows.h"
 
 namespace kiso {
 namespace {

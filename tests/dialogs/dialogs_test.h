@@ -4,9 +4,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "frame/add_win.h"
-#include "frame/addins.h"
-#include "frame/set_win.h"
+#include "addin/addin.h"
+#include "dialogs/add_win.h"
+#include "dialogs/set_win.h"
 #include "stage.h"
 
 namespace kiso {

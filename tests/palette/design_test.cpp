@@ -1,11 +1,11 @@
 // What a person finds on the palette: every button in its place, with a picture and a name.
 #include <set>
 
-#include "palette/about_win.h"
-#include "palette/help_win.h"
 #include "palette/palette_fixture.h"
 #include "palette/palette_table.h"
 #include "platform/forms/sheets.h"
+#include "windows/about_win.h"
+#include "windows/help_win.h"
 
 namespace kiso {
 namespace {

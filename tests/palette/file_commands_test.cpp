@@ -1,5 +1,5 @@
 // The FILE_B buttons: load, save, both ways through the clipboard, a new picture.
-#include "frame/addins.h"
+#include "addin/addin.h"
 #include "palette/palette_fixture.h"
 #include "platform/forms/clipboard.h"
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "frame/param_win.h"
+#include "palette/param_win.h"
 #include "stage.h"
 
 namespace kiso {

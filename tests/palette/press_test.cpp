@@ -1,5 +1,5 @@
 // Which buttons look pressed, which panel lies in front, and how the two palettes replace each other.
-#include "frame/set_win.h"
+#include "dialogs/set_win.h"
 #include "palette/palette_fixture.h"
 
 namespace kiso {

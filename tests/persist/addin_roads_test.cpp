@@ -4,7 +4,8 @@
 
 #include <fstream>
 
-#include "frame/addins.h"
+#include "addin/addin.h"
+#include "persist/persist.h"
 #include "stage.h"
 
 namespace {

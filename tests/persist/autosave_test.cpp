@@ -1,8 +1,9 @@
 // The auto save: when it runs, where it writes, and all that it leaves alone.
 #include <fstream>
 
-#include "frame/wait_win.h"
+#include "persist/persist.h"
 #include "stage.h"
+#include "windows/wait_win.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 // What the file dialogs are given and what they give back, and the questions before a picture is replaced.
-#include "frame/addins.h"
-#include "frame/d_form.h"
+#include "addin/addin.h"
+#include "persist/d_form.h"
+#include "persist/persist.h"
 #include "platform/error.h"
 #include "platform/forms/clipboard.h"
 #include "stage.h"

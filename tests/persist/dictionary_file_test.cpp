@@ -1,3 +1,4 @@
+#include "persist/persist.h"
 #include "persist/program_dir.h"
 
 namespace kiso {

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <fstream>
 
+#include "persist/persist.h"
 #include "stage.h"
 
 namespace {

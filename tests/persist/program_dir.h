@@ -10,10 +10,10 @@
 #include <map>
 #include <string>
 
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 
 namespace kiso {
 

@@ -1,4 +1,5 @@
 // Settings that can not be read or written: a numbered error, and nothing is lost.
+#include "persist/persist.h"
 #include "persist/program_dir.h"
 
 namespace kiso {

@@ -1,6 +1,7 @@
 // The templates as they are shipped.
 #include <sstream>
 
+#include "persist/persist.h"
 #include "persist/program_dir.h"
 #include "platform/text/encoding.h"
 

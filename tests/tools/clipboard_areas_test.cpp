@@ -1,4 +1,5 @@
 // Copy to Clipboard and Copy from Clipboard.
+#include "persist/persist.h"
 #include "platform/forms/clipboard.h"
 #include "tools_stage.h"
 

@@ -1,6 +1,7 @@
 // The windows of the tools' numbers: what opens and closes them, what their bars and buttons set.
-#include "frame/param_win.h"
+#include "palette/param_win.h"
 #include "colour/colour_test.h"
+#include "palette/palette.h"
 
 namespace kiso {
 namespace {

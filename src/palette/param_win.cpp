@@ -1,10 +1,10 @@
-#include "frame/param_win.h"
+#include "palette/param_win.h"
 
 #include <algorithm>
 
-#include "frame/cmd_win.h"
 #include "frame/p_win.h"
-#include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
+#include "palette/palette.h"
 #include "platform/text/text.h"
 
 namespace kiso {

@@ -11,7 +11,4 @@ struct HelpWin : Window {
 };
 extern HelpWin HELP_WIN;
 
-// Opens the page, or brings the open one forward.
-void HELP_SHOW();
-
 }  // namespace kiso

@@ -14,7 +14,4 @@ struct AboutWin : Window {
 };
 extern AboutWin ABOUT_WIN;
 
-// Over the middle of P_WIN, owned by it.
-void ABOUT_SHOW();
-
 }  // namespace kiso

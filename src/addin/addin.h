@@ -1,6 +1,8 @@
-// The tables of external programs: the registry KISO.AIN in memory, and what a parameter file (*.AIP) offers. Rows
-// count from 0. A row whose identifier is "" is free.
+// The shared procedures of add-ins, and the tables of external programs: the registry KISO.AIN in memory, and what a
+// parameter file (*.AIP) offers. Rows count from 0. A row whose identifier is "" is free.
 #pragma once
+
+#include <string>
 
 #include "frame/usr_def.h"
 
@@ -38,5 +40,22 @@ extern RecordTexts AIP_FW_CMD, AIP_FW_FILTER, AIP_FW_EXT;
 extern int16_t AIP_FW_CNT;
 extern int16_t AIP_HAS_SPOP;
 extern std::string AIP_SPOP;
+
+void READ_AIN();   // the tables from KISO.AIN, which is made from its template if there is none
+void WRITE_AIN();  // KISO.AIN anew, the tables in the places that DEFAULT.AIN marks
+// The first add-in of that identifier; result 0 found, 1 not found: exe is left as it was then.
+void ADDIN_LOOKUP(const std::string& id, std::string& title, std::string& exe, int& index, int& result);
+void AIP_READ(const std::string& path);  // a parameter file into the fields of ADD_WIN
+void AIP_CHECK(int& result);             // 1: its add-in is installed already, the user has been told
+// Installs what AIP_READ has read, after AIP_CHECK, and asks the user where it has to. False if it was refused; the
+// user has been told.
+bool AIP_INSTALL();
+// prefix, the six digits of the time, ".", extension
+void TEMP_NAME(const std::string& prefix, const std::string& extension, std::string& result);
+// A command template with its tokens %GP %FN %ON %SO %OF replaced; %OF of a PIC_FILE below four characters is error 5.
+void EXPAND_COMMAND(const std::string& command, const std::string& temp, std::string& result);
+// Starts a program by a command line and returns when it has ended; events run meanwhile. False if there is no such
+// program; the user has been told.
+bool RUN_AND_WAIT(const std::string& command);
 
 }  // namespace kiso

@@ -1,12 +1,12 @@
-#include "frame/wait_win.h"
+#include "windows/wait_win.h"
 
 #include <chrono>
 
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
+#include "colour/col_win.h"
 #include "frame/p_win.h"
-#include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
 #include "platform/text/text.h"
+#include "windows/windows.h"
 
 namespace kiso {
 

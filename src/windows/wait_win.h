@@ -14,7 +14,4 @@ struct WaitWin : Window {
 };
 extern WaitWin WAIT_WIN;
 
-// Shows the window above P_WIN with that caption, at once. Whoever shows it unloads it.
-void WAIT_SHOW(const std::string& caption);
-
 }  // namespace kiso

@@ -1,12 +1,15 @@
 // The start of the program: the load event of the main window.
-#include "frame/cmd_win.h"
-#include "frame/col_win.h"
-#include "frame/d_form.h"
+#include "addin/addin.h"
+#include "colour/col_win.h"
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
-#include "frame/splash_win.h"
 #include "frame/usr_sub.h"
+#include "palette/cmd_win.h"
+#include "persist/d_form.h"
+#include "persist/persist.h"
 #include "platform/text/program_directory.h"
+#include "program/program.h"
+#include "windows/splash_win.h"
 
 namespace kiso {
 

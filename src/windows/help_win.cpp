@@ -1,6 +1,7 @@
-#include "palette/help_win.h"
+#include "windows/help_win.h"
+#include "windows/windows.h"
 
-#include "palette/help_page.h"
+#include "windows/help_page.h"
 
 namespace kiso {
 

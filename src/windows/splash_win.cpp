@@ -1,4 +1,4 @@
-#include "frame/splash_win.h"
+#include "windows/splash_win.h"
 
 namespace kiso {
 

@@ -1,7 +1,8 @@
-#include "palette/about_win.h"
+#include "windows/about_win.h"
+#include "windows/windows.h"
 
 #include "frame/p_win.h"
-#include "frame/splash_win.h"
+#include "windows/splash_win.h"
 
 namespace kiso {
 
