@@ -14,7 +14,7 @@ void place(Control& control, double left, double top, double width, double heigh
 }
 
 void PICK_EXIT() {
-  if (CUR_TOOL != 1000) return;
+  if (CUR_TOOL != SPOIT) return;
   CUR_TOOL = PREV_TOOL;
   TOOL_CHANGED();
 }
@@ -33,13 +33,13 @@ void colour_box_click(int16_t target) {
     COL_TARGET = target;
     COL_LOAD_WORK();
     COL_DRAW_BARS(CUR_R, CUR_G, CUR_B);
-    if (CUR_TOOL == 1000) CUR_TOOL = PREV_TOOL;
+    if (CUR_TOOL == SPOIT) CUR_TOOL = PREV_TOOL;
     if (COL_PANE == 1) show_bars();
-  } else if (CUR_TOOL == 1000) {
+  } else if (CUR_TOOL == SPOIT) {
     CUR_TOOL = PREV_TOOL;
   } else {
-    if (PREV_TOOL != 1000) PREV_TOOL = CUR_TOOL;
-    CUR_TOOL = 1000;
+    if (PREV_TOOL != SPOIT) PREV_TOOL = CUR_TOOL;
+    CUR_TOOL = SPOIT;
   }
   TOOL_CHANGED();
 }
@@ -91,7 +91,7 @@ void design_top() {
   colour_box(COL_WIN.TAR_COL, COL_WIN.TAR_SEL, 5, RGB(TAR_R, TAR_G, TAR_B), "ターゲット色 (もう一度押すとスポイト)");
   colour_box(COL_WIN.DES_COL, COL_WIN.DES_SEL, 55, RGB(DES_R, DES_G, DES_B),
              "デスティネーション色 (もう一度押すとスポイト)");
-  (COL_TARGET == 0 ? COL_WIN.TAR_SEL : COL_WIN.DES_SEL).FillColor(QBColor(CUR_TOOL == 1000 ? 12 : 11));
+  (COL_TARGET == 0 ? COL_WIN.TAR_SEL : COL_WIN.DES_SEL).FillColor(QBColor(CUR_TOOL == SPOIT ? 12 : 11));
 
   COL_WIN.COL_RGB.border = true;
   place(COL_WIN.COL_RGB, 5, 35, 94, 12);

@@ -20,7 +20,7 @@ void DRAW_MouseDown(int Button, int Shift, float X, float Y);
 void DRAW_MouseMove(int Button, int Shift, float X, float Y);
 void DRAW_MouseUp(int Button, int Shift, float X, float Y);
 void DRAW_DblClick();
-bool tool_wants_each_press();  // a dot tool: the second press of a double click is one more dot
+bool tool_wants_each_press();  // the second press of a double click is one more press
 void DRAW_Wheel(int right, int down);
 void DRAW_KeyDown(int KeyCode, int Shift);
 void DRAW_KeyPress(int KeyAscii);

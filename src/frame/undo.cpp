@@ -1,15 +1,13 @@
 // One level of undo, as a swap. The snapshot is taken by the commits (view.cpp), just before PIC changes.
 #include "frame/p_win.h"
+#include "frame/preview.h"
 #include "frame/usr_sub.h"
 
 namespace kiso {
 
 void DROP_STROKE() {
   PEN_DOWN = 0;
-  if (PREVIEW_ON == 1) {
-    DRAW.AutoRedraw(true);
-    PREVIEW_ON = 0;
-  }
+  drop_preview();
   p_win::show_info(" ");
   VIEW_REDRAW();
 }

@@ -35,6 +35,8 @@ extern int16_t STATUS_H;               // its height in pixels
 extern int16_t PREVIEW_ON;             // 1: DRAW's AutoRedraw is off and M_REDRAW is its backing store
 
 // --- tool
+// The number of the Spoit.
+constexpr int16_t SPOIT = 1000;
 extern int16_t CUR_TOOL;      // number of the tool and of its state, see tools/tool_table.cpp
 extern int16_t PREV_TOOL;     // tool to come back to from the Spoit
 extern int16_t EXP_TOOL;      // tool that a zoom click gives, the last one chosen from the expansion palette

@@ -1,6 +1,7 @@
 // The view: DRAW is a window on PIC, and what is painted on DRAW is read back into PIC.
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
+#include "frame/preview.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
 #include "platform/raster/read_back.h"
@@ -31,11 +32,7 @@ void scrolled(ScrollBar& bar, int axis) {
     UNDO_BUTTON(2);
   }
   fall_back(BY_SCROLL);
-  if (PREVIEW_ON == 1) {
-    PEN_DOWN = 0;
-    DRAW.AutoRedraw(true);
-    PREVIEW_ON = 0;
-  }
+  if (drop_preview()) PEN_DOWN = 0;
   VIEW_ORG(axis) = to_int16(bar.Value());
   p_win::VIEW_SCROLL_SHOW();
 }
@@ -43,10 +40,8 @@ void scrolled(ScrollBar& bar, int axis) {
 }  // namespace
 
 void VIEW_FIT() {
-  if (PREVIEW_ON == 1) {
+  if (drop_preview()) {
     fall_back(BY_FIT);
-    DRAW.AutoRedraw(true);
-    PREVIEW_ON = 0;
     PEN_DOWN = 0;
   }
   for (int axis : {1, 2}) {
@@ -138,8 +133,6 @@ void DRAW_Resize() {
   UNDO.Move(0, 0, DRAW.Width(), DRAW.Height());
   M_REDRAW.Move(0, 0, DRAW.Width(), DRAW.Height());
 }
-
-void DRAW_Paint() { BitBlt(DRAW, 0, 0, VIEW_DOT(1), VIEW_DOT(2), M_REDRAW, 0, 0); }
 
 }  // namespace p_win
 }  // namespace kiso

@@ -176,10 +176,7 @@ void EXP_M2_Click(int Index) {
   VIEW_FIT();
   X_SC.Value(new_x);
   Y_SC.Value(new_y);
-  if (CUR_TOOL == 11101) {
-    WORK.Visible(false);
-    CUR_TOOL = 11100;
-  }
+  fall_back(BY_ZOOM_OUT);
   DRAW.Visible(true);
   TOOL_CHANGED();
 }

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "frame/p_win.h"
+#include "frame/preview.h"
 #include "frame/usr_sub.h"
 #include "platform/raster/read_back.h"
 #include "tools/tools.h"
@@ -42,10 +43,7 @@ void start_at(float X, float Y) {
 
 // WORK becomes the view in picture pixels, and the screen of DRAW is painted from M_REDRAW alone.
 void prepare(float X, float Y) {
-  M_REDRAW.Move(0, 0, DRAW.Width(), DRAW.Height());
-  BitBlt(M_REDRAW, 0, 0, VIEW_DOT(1), VIEW_DOT(2), DRAW, 0, 0);
-  PREVIEW_ON = 1;
-  DRAW.AutoRedraw(false);
+  begin_preview();
   WORK.Move(0, 0, VIEW_PIX(1), VIEW_PIX(2));
   read_back(WORK, 0, 0, VIEW_PIX(1), VIEW_PIX(2), M_REDRAW, EXP_RATE);
   start_at(X, Y);
@@ -53,13 +51,6 @@ void prepare(float X, float Y) {
   WORK.DrawStyle(0);
   WORK.FillStyle(CLEAR);
   WORK.DrawMode(XOR);
-}
-
-// The end of every tool that works on WORK.
-void hand_back() {
-  PREVIEW_ON = 0;
-  DRAW.AutoRedraw(true);
-  BitBlt(DRAW, 0, 0, VIEW_DOT(1), VIEW_DOT(2), M_REDRAW, 0, 0);
 }
 
 // --- figures between PT_START and PT_LAST. What they change goes to the view along their outline: a box round a long
@@ -125,7 +116,7 @@ void finish_with(const Figure& figure, float X, float Y) {
   WORK.DrawMode(COPY);
   follow(X, Y);
   put(figure, COL_A);
-  hand_back();
+  end_preview();
 }
 
 // --- ellipses: PT_LAST 1 to 4 holds the rectangle, right and bottom left out
@@ -202,7 +193,7 @@ void finish_ellipse(bool filled) {
   ellipse();
   WORK.FillStyle(CLEAR);
   to_view(whole_view());
-  hand_back();
+  end_preview();
 }
 
 // --- chains
@@ -328,7 +319,7 @@ void block_chain_hover(float X, float Y) {
 
 // The segment is painted; a click where it began closes the chain.
 void block_chain_next(float X, float Y) {
-  if (DRAW.AutoRedraw()) pick_up_chain();
+  if (!preview_shows()) pick_up_chain();
   put(CHAIN_LINE, COL_XOR);
   follow(X, Y);
   WORK.DrawMode(COPY);
@@ -344,7 +335,7 @@ void block_chain_next(float X, float Y) {
 }
 
 void block_chain_close(float /*X*/, float /*Y*/) {
-  if (!DRAW.AutoRedraw()) hand_back();
+  if (preview_shows()) end_preview();
 }
 
 }  // namespace kiso

@@ -1,6 +1,7 @@
 // Paint A fills the pixels of the clicked colour, Paint B all up to a border of the destination colour; both on DRAW,
 // so that they end where the view ends.
 #include "frame/p_win.h"
+#include "frame/preview.h"
 #include "tools/tools.h"
 
 namespace kiso {
@@ -12,7 +13,7 @@ Colour ready_to_fill(int x, int y) {
   DRAW.FillStyle(0);
   DRAW.FillColor(COL_A);
   const Colour clicked = GetPixel(DRAW, x, y);
-  DRAW.AutoRedraw(true);
+  cover_preview();
   return clicked;
 }
 

@@ -1,6 +1,7 @@
 // The pointer pipeline: what all tools have in common from the press to the commit.
 #include "frame/p_win.h"
 #include "frame/p_win_events.h"
+#include "frame/preview.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
 #include "tools/tool_table.h"
@@ -26,12 +27,12 @@ void toggle_palettes() {
   }
 }
 
-// The right button during a stroke. PREVIEW_ON stays as it is until the next VIEW_FIT.
+// The right button during a stroke.
 void cancel_stroke() {
   p_win::show_info(" ");
   Timer1.Interval(0);
   PEN_DOWN = 0;
-  if (PREVIEW_ON == 1) DRAW.AutoRedraw(true);
+  cover_preview();
   fall_back(BY_RIGHT);
   VIEW_REDRAW();
 }
@@ -48,7 +49,8 @@ void right_press(float X, float Y) {
 
 void left_press(float X, float Y) {
   if (DOWN_BUSY != 0) return;
-  if (PEN_DOWN != 0 && CUR_TOOL != 12029) return;
+  const ToolRow& tool = tool_row(CUR_TOOL);
+  if (PEN_DOWN != 0 && !tool.holds_stroke) return;
   DOWN_BUSY = 1;
   PEN_DOWN = 1;
   STROKE_STATE = 1;
@@ -60,11 +62,11 @@ void left_press(float X, float Y) {
   DRAW.DrawWidth(PEN_SIZE);
   DRAW.DrawMode(13);
   DRAW.FillStyle(1);
-  if (CUR_TOOL != 12029 && CUR_TOOL != 1031 && CUR_TOOL != 5031) {
+  if (!tool.keeps_start) {
     PT_START(1) = PT_LAST(1) = to_int32(X);
     PT_START(2) = PT_LAST(2) = to_int32(Y);
   }
-  tool_row(CUR_TOOL).press(X, Y);
+  tool.press(X, Y);
   DOWN_BUSY = 0;
 }
 
@@ -81,7 +83,7 @@ bool enters_new_pixel(float X, float Y) {
 void commit_box(double x1, double y1, double x2, double y2) { VIEW_COMMIT_RECT(x1, y1, x2, y2); }
 
 void commit(Commit what) {
-  if (what == Commit::none || what == Commit::open) return;
+  if (what == Commit::absent || what == Commit::none || what == Commit::open) return;
   if (what == Commit::view || UNDO_READY != 1) {
     VIEW_COMMIT();
     return;
@@ -96,8 +98,10 @@ void commit(Commit what) {
   commit_box(BOX_MIN(1), BOX_MIN(2), BOX_MAX(1), BOX_MAX(2));
 }
 
-void stroke_committed() {
+void stroke_over(Commit what) {
+  if (what == Commit::open) return;
   STROKE_STATE = 2;
+  if (what == Commit::absent) return;
   UNDO_READY = 1;
   UNDO_BUTTON(0);
 }
@@ -107,11 +111,11 @@ void left_release(float X, float Y) {
   const ToolRow& released = tool_row(CUR_TOOL);
   released.release(X, Y);
   if (released.after_release != 0) CUR_TOOL = released.after_release;
-  const Commit what = tool_row(CUR_TOOL).commit;
-  commit(what);
-  if (what != Commit::open) stroke_committed();
-  if (CUR_TOOL != 12029) PEN_DOWN = 0;
-  if (CUR_TOOL == 13029) CUR_TOOL = 11029;
+  const ToolRow& reached = tool_row(CUR_TOOL);
+  commit(reached.commit);
+  stroke_over(reached.commit);
+  if (!reached.holds_stroke) PEN_DOWN = 0;
+  if (reached.after_commit != 0) CUR_TOOL = reached.after_commit;
   UP_BUSY = 0;
 }
 
@@ -145,10 +149,7 @@ void DRAW_MouseUp(int Button, int /*Shift*/, float X, float Y) {
 
 void DRAW_DblClick() { tool_row(CUR_TOOL).double_click(PT_CUR(1), PT_CUR(2)); }
 
-bool tool_wants_each_press() {
-  const Commit what = tool_row(CUR_TOOL).commit;
-  return what == Commit::stroke_box || what == Commit::block_box;
-}
+bool tool_wants_each_press() { return tool_row(CUR_TOOL).each_press; }
 
 void DRAW_Wheel(int right, int down) {
   if (PEN_DOWN != 0) return;

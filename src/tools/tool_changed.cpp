@@ -26,7 +26,7 @@ void point_with(T& shown, const char* sheet) {
 void mark_selected_colour() {
   Shape& selected = COL_TARGET == 0 ? COL_WIN.TAR_SEL : COL_WIN.DES_SEL;
   Shape& other = COL_TARGET == 0 ? COL_WIN.DES_SEL : COL_WIN.TAR_SEL;
-  selected.FillColor(QBColor(CUR_TOOL == 1000 ? 12 : 11));
+  selected.FillColor(QBColor(CUR_TOOL == SPOIT ? 12 : 11));
   other.FillColor(0x8000000F);
 }
 
@@ -34,9 +34,7 @@ void mark_selected_colour() {
 // stroke. A tool that waits for its next click is still the same tool, and an event of the pointer minds its stroke
 // itself.
 void drop_open_chain() {
-  const Commit commit = tool_row(CUR_TOOL).commit;
-  const bool waits_for_click = CUR_TOOL != 1000 && (commit == Commit::open || commit == Commit::none);
-  if (waits_for_click || DOWN_BUSY != 0 || UP_BUSY != 0) return;
+  if (between_clicks(tool_row(CUR_TOOL)) || DOWN_BUSY != 0 || UP_BUSY != 0) return;
   if (RUBBER_ON == 1 || (PREVIEW_ON == 1 && PEN_DOWN == 1)) DROP_STROKE();
 }
 
@@ -57,11 +55,12 @@ const char* TOOL_STATUS(int tool) { return tool_row(tool).inf_cmd; }
 void TOOL_CHANGED() {
   drop_open_chain();
   mark_selected_colour();
-  SET_CURSOR(tool_row(CUR_TOOL).cursor);
-  WORK.Visible(CUR_TOOL == 20001 || CUR_TOOL == 11101 || CUR_TOOL == 19);
-  WORD.Visible(CUR_TOOL == 27001);
+  const ToolRow& tool = tool_row(CUR_TOOL);
+  SET_CURSOR(tool.cursor);
+  WORK.Visible(tool.floats == Floats::WORK);
+  WORD.Visible(tool.floats == Floats::WORD);
   PARAM_WIN_CLOSE();
-  if (STATUS_ON == 1) INF_CMD.Caption(TOOL_STATUS(CUR_TOOL));
+  if (STATUS_ON == 1) INF_CMD.Caption(tool.inf_cmd);
 }
 
 }  // namespace kiso

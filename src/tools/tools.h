@@ -3,9 +3,6 @@
 
 namespace kiso {
 
-void nothing(float X, float Y);
-void no_tick();
-
 // dots.cpp
 void pset_press(float X, float Y);
 void pset_dot(float X, float Y);

@@ -1,4 +1,6 @@
 // What each cause does to a tool that has come some clicks far.
+#include "frame/state_families.h"
+
 #include "stage.h"
 
 namespace {
@@ -104,6 +106,18 @@ TEST(StateFamilies, TheRightButtonTakesAStampedAreaBack) {
     prepare(stamped);
     RIGHT.happens();
     EXPECT_EQ(CUR_TOOL, base);
+  }
+}
+
+TEST(StateFamilies, AnAreaLiftedAtExpansionDoesNotGoAlongToASmallerOne) {
+  start();
+  view(40, 40);
+  show(Picture(60, std::string(60, '.')));
+  for (const auto& [state, reached] : {std::pair{11101, 11100}, {11102, 11102}, {12029, 12029}, {20001, 20001}}) {
+    prepare(state);
+    forms::enter([] { fall_back(BY_ZOOM_OUT); });
+    EXPECT_EQ(CUR_TOOL, reached);
+    EXPECT_EQ(WORK.Visible(), state == reached);
   }
 }
 
