@@ -85,6 +85,7 @@ class PictureBox : public Control, public PointerEvents, public KeyEvents {
   // --- for the peers: what is on the screen, whether the window is loaded or not. Empty as long as nobody has drawn on
   // the box or read from it; it is then all BackColor.
   raster::Surface& shown() { return auto_redraw_ ? image_ : screen_; }
+  raster::Rect take_new();  // what of it has been drawn since it was last asked
 
  protected:
   void resized(bool quietly) override;
@@ -94,8 +95,10 @@ class PictureBox : public Control, public PointerEvents, public KeyEvents {
  private:
   raster::Surface& made(raster::Surface& s) { return has_image_ ? s : (make_image(), s); }
   void make_image();
+  void copy_to_screen();
 
   raster::Surface image_, screen_;
+  raster::Rect differs_;  // beside what either has been touched in, they are equal outside of it if their sizes are
   bool has_image_ =
       false;  // a background that is never drawn on, or a work surface before its first use, takes no memory
   bool auto_redraw_ = true, auto_size_ = false;

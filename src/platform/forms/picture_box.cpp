@@ -40,17 +40,29 @@ void PictureBox::make_image() {
 void PictureBox::AutoRedraw(bool v) {
   if (touched(), auto_redraw_ == v) return;
   made(image_);
+  const raster::Rect owed = take_new();  // drawn, and not yet on the display
   auto_redraw_ = v;
-  if (v) {
-    image_.touch_all();
-    return;
+  if (!v) copy_to_screen();
+  const raster::Rect& r = v ? differs_ : owed;
+  shown().touch(r.left, r.top, r.right, r.bottom);
+}
+
+// The screen becomes the image, which the display shows already.
+void PictureBox::copy_to_screen() {
+  if (screen_.width() != image_.width() || screen_.height() != image_.height()) {
+    screen_.resize(image_.width(), image_.height());
+    differs_ = {0, 0, image_.width(), image_.height()};
   }
-  screen_.resize(image_.width(), image_.height());
-  BitBlt(screen_, 0, 0, image_.width(), image_.height(), image_, 0, 0);
-  // The screen already shows just this; only what the image still owed it remains to be painted.
+  const raster::Rect& r = differs_;
+  BitBlt(screen_, r.left, r.top, r.right - r.left, r.bottom - r.top, image_, r.left, r.top);
   screen_.take_touched();
-  const raster::Rect owed = image_.take_touched();
-  if (!owed.empty()) screen_.touch(owed.left, owed.top, owed.right, owed.bottom);
+  differs_ = {};
+}
+
+raster::Rect PictureBox::take_new() {
+  const raster::Rect drawn = shown().take_touched();
+  differs_ = around(differs_, drawn);
+  return drawn;
 }
 
 void PictureBox::Picture(Surface&& bitmap) {

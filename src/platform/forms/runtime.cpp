@@ -87,8 +87,8 @@ void flush() {
       if (!c->peer) continue;
       if (const uint32_t changes = c->take_pending()) c->peer->update(changes);
       if (c->kind != Kind::picture || !c->is_visible()) continue;
-      const raster::Rect touched = static_cast<PictureBox*>(c)->shown().take_touched();
-      if (!touched.empty()) c->peer->drawn(touched);
+      const raster::Rect drawn = static_cast<PictureBox*>(c)->take_new();
+      if (!drawn.empty()) c->peer->drawn(drawn);
     }
   }
 }

@@ -126,13 +126,7 @@ Colour Surface::to_colour(uint32_t pixel) const {
 
 void Surface::touch(int left, int top, int right, int bottom) {
   const Rect cut{std::max(left, 0), std::max(top, 0), std::min(right, width_), std::min(bottom, height_)};
-  if (cut.empty()) return;
-  if (touched_.empty()) {
-    touched_ = cut;
-  } else {
-    touched_ = {std::min(touched_.left, cut.left), std::min(touched_.top, cut.top), std::max(touched_.right, cut.right),
-                std::max(touched_.bottom, cut.bottom)};
-  }
+  touched_ = around(touched_, cut);
 }
 
 Rect Surface::take_touched() {

@@ -21,8 +21,14 @@ constexpr Colour RGB(int r, int g, int b) {
 // right and bottom are excluded; empty when right <= left or bottom <= top.
 struct Rect {
   int left = 0, top = 0, right = 0, bottom = 0;
-  bool empty() const { return right <= left || bottom <= top; }
+  constexpr bool empty() const { return right <= left || bottom <= top; }
 };
+// The smallest rectangle that holds both.
+constexpr Rect around(const Rect& a, const Rect& b) {
+  if (a.empty()) return b;
+  if (b.empty()) return a;
+  return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
+}
 
 struct DrawState {
   int DrawMode = 13;  // 13 copy pen, 7 XOR pen
