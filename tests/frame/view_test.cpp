@@ -22,6 +22,18 @@ TEST(View, APictureNarrowerThanTheWindowHasNoScrollBarThere) {
   EXPECT_EQ(X_SC.Max(), 0);
 }
 
+TEST(View, AClickBesideTheSliderOfABarScrollsByOneView) {
+  start();
+  view(100, 60);
+  show(blank(300, 200));
+  EXPECT_EQ(X_SC.LargeChange(), 100);
+  EXPECT_EQ(Y_SC.LargeChange(), 60);
+  zoom(4);
+  EXPECT_EQ(X_SC.LargeChange(), VIEW_PIX(1));
+  EXPECT_EQ(Y_SC.LargeChange(), VIEW_PIX(2));
+  EXPECT_LT(Y_SC.LargeChange(), 20);
+}
+
 TEST(View, AnOddWindowLosesOneColumnAndScrollingReachesTheRest) {
   start();
   view(101, 100);

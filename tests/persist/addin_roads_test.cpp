@@ -1,7 +1,9 @@
 // Pictures of foreign kinds: the roads of LOAD_PICTURE and SAVE_PICTURE through an add-in, here scripts of the test's
 // own.
+#include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <csignal>
 #include <fstream>
 
 #include "addin/addin.h"
@@ -381,6 +383,26 @@ TEST(CommandLine, APictureOfAForeignKindComesUpWithThePalettesWhereTheSettingsSa
   EXPECT_TRUE(COL_WIN.Visible());
   EXPECT_EQ(COL_WIN.Left(), 3000);
   EXPECT_EQ(COL_WIN.Top(), 1500);
+}
+
+// The disk is full: the temporary picture can not be written. The writer could only spoil the target then.
+TEST_F(Roads, AWriterIsNotRunWithoutThePicture) {
+  write_addin("copy-out", "rm -f \"$name\"");
+  put(in_home("old.gif"), "old");
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit full{16, RLIM_INFINITY};
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  setrlimit(RLIMIT_FSIZE, &full);
+  forms::enter([] {
+    try {
+      SAVE_PICTURE(in_home("old.gif"));
+    } catch (const RuntimeError&) {  // whether it is told by a box or by an error is another test's
+    }
+  });
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(bytes_of(in_home("old.gif")), "old");
+  EXPECT_EQ(left_behind(), 0);
 }
 
 }  // namespace

@@ -49,6 +49,20 @@ TEST(PaintA, WithTheColourThatIsThereChangesNothingAndCommits) {
   EXPECT_EQ(UNDO_READY, 1);
 }
 
+// A fill leaves its brush on DRAW; the next press takes it off.
+TEST(PaintA, LeavesTheBoxThatFollowsHollow) {
+  stage::stage(plain(5, 4));
+  select_tool(PAINT_A);
+  target_colour('y');
+  click(0, 0);
+  select_tool(4);
+  target_colour('r');
+  press(0, 0);
+  drag(4, 3);
+  release(4, 3);
+  EXPECT_PIC({"rrrrr", "ryyyr", "ryyyr", "rrrrr"});
+}
+
 TEST(PaintA, EndsWhereTheViewEnds) {
   stage::stage(plain(20, 2));
   view(16, 16);

@@ -60,6 +60,15 @@ TEST(Pointer, TheRightButtonCancelsAStroke) {
   EXPECT_TRUE(CMD_WIN.Visible());
 }
 
+TEST(Pointer, TheRightButtonStopsTheSprayTimer) {
+  stage::stage(plain(4, 4));
+  select_tool(1);
+  press(1, 1);
+  forms::enter([] { Timer1.Interval(50); });
+  press(1, 1, 2);
+  EXPECT_EQ(Timer1.Interval(), 0);
+}
+
 TEST(Pointer, BetweenTheClicksOfAPolygonTheRightButtonOnlyToggles) {
   stage::stage({"......", "......", "......", "......"});
   select_tool(27);
