@@ -12,7 +12,7 @@ using namespace kiso;  // NOLINT(google-build-using-namespace)
 
 namespace {
 
-constexpr int FREE_MOVES = 100000, RUBBER_MOVES = 200;
+constexpr int FREE_MOVES = 100000, RUBBER_MOVES = 200, TICKS = 1000;
 
 struct Place {
   float x, y;
@@ -127,6 +127,21 @@ double floating_moves(const Floating& floating, const std::vector<Place>& places
   return time;
 }
 
+// A tick of an air spray: its tile of 33 x 33 goes to the screen, then to the image, and the display is told.
+double tick33(int w, int h) {
+  show(pictures().picture, 1);
+  forms::enter([&] { DRAW.Move(DRAW.Left(), DRAW.Top(), w, h); });
+  const double time = timed_each(TICKS, [] {
+    const auto transfer = [] { BitBlt(DRAW, 100, 80, 33, 33, PIC, 40, 60); };
+    DRAW.AutoRedraw(false);
+    transfer();
+    DRAW.AutoRedraw(true);
+    transfer();
+    DRAW.take_new();
+  });
+  return time;
+}
+
 }  // namespace
 
 void add_tool_rows(Rows& rows) {
@@ -160,6 +175,11 @@ void add_tool_rows(Rows& rows) {
                     {{2, "ms"}, {0, "allocations"}},
                     RUBBER_MOVES});
   }
+  rows.push_back({"tick33",
+                  "a tile of 33 x 33 to the screen and to the image, beside a view of 320 x 200",
+                  [] { return tick33(VIEW_W, VIEW_H); },
+                  {{1.1, "tick33_small"}, {20, "us"}}});
+  rows.push_back({"tick33_small", "", [] { return tick33(320, 200); }});
 }
 
 }  // namespace bench

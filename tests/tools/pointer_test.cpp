@@ -61,7 +61,7 @@ TEST(Pointer, TheRightButtonCancelsAStroke) {
 }
 
 TEST(Pointer, TheRightButtonStopsTheSprayTimer) {
-  stage::stage(plain(4, 4));
+  stage::stage({"....", "...."});
   select_tool(1);
   press(1, 1);
   forms::enter([] { Timer1.Interval(50); });

@@ -161,10 +161,8 @@ TEST(ToolTable, NoStateThatActsOnADoubleClickTakesItsPressAsAnother) {
 }
 
 TEST(ToolTable, AToolThatIsNotThereYetLeavesUndoAsItIs) {
-  int absent = 0;
   for (const ToolRow& row : all_tools()) {
     if (!is_absent(row)) continue;
-    ++absent;
     stage::stage({"...", "..."});
     select_tool(1);
     press(1, 1), release(1, 1);
@@ -183,7 +181,6 @@ TEST(ToolTable, AToolThatIsNotThereYetLeavesUndoAsItIs) {
     EXPECT_EQ(UNDO_READY, 0) << row.number;
     EXPECT_FALSE(CMD_WIN.UNDO.Enabled()) << row.number;
   }
-  if (absent == 0) GTEST_SKIP() << "all tools are there";
 }
 
 TEST(ToolTable, NoSelectChangesNothing) {
