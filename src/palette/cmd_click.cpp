@@ -36,11 +36,7 @@ void press_while(Group group, int index, void (*command)()) {
 
 void nothing() {}
 
-int16_t tool_of(const PalButton& button) {
-  if (LINE_MODE > 0 && button.tool == 3) return 29;
-  if (LINE_MODE > 0 && button.tool == 11010) return 11029;
-  return button.tool;
-}
+int16_t tool_of(const PalButton& button) { return button.chooses ? button.chooses() : button.tool; }
 
 void choose(int16_t tool) {
   CUR_TOOL = tool;
@@ -48,18 +44,7 @@ void choose(int16_t tool) {
 }
 
 void open_parameters(const PalButton& button) {
-  if (CMD_WIN.BTN_RIGHT == 1 && button.right != Param::none) PARAM_WIN_SHOW(button.tool);
-}
-
-// WORK takes the clipboard's picture, to float above DRAW. False if there is none; the user has been told.
-bool take_clipboard() {
-  Surface picture;
-  if (!clipboard_picture(picture)) return false;
-  WORK.AutoSize(true);
-  WORK.Picture(std::move(picture));
-  WORK.AutoSize(false);
-  WORK.Move(0, 0);
-  return true;
+  if (CMD_WIN.BTN_RIGHT == 1) PARAM_WIN_SHOW(button.right);
 }
 
 // The first panel of the expansion palette, with its group button.
@@ -70,6 +55,25 @@ void open_first_expansion_panel() {
 }
 
 }  // namespace
+
+int16_t line_tool() { return LINE_MODE > 0 ? 29 : 3; }
+int16_t expanded_line_tool() { return LINE_MODE > 0 ? 11029 : 11010; }
+
+int16_t clipboard_copy_tool() {
+  if (STRETCH_OK == 1) return 18;
+  MsgBox("StretchBltとImageに問題のある機種では使えません");
+  return 0;
+}
+
+int16_t clipboard_paste_tool() {
+  Surface picture;
+  if (!clipboard_picture(picture)) return NO_TOOL;
+  WORK.AutoSize(true);
+  WORK.Picture(std::move(picture));
+  WORK.AutoSize(false);
+  WORK.Move(0, 0);
+  return 19;
+}
 
 namespace cmd_win {
 
@@ -107,12 +111,8 @@ void CMD_B_Click(int Index) {
   }
   PAL_SET_PRESSED(Group::EDIT_B, -1);
   PAL_SET_PRESSED(Group::CMD_B, Index);
-  int16_t tool = tool_of(button);
-  if (tool == 18 && STRETCH_OK != 1) {
-    MsgBox("StretchBltとImageに問題のある機種では使えません");
-    tool = 0;
-  }
-  if (tool == 19 && !take_clipboard()) return;
+  const int16_t tool = tool_of(button);
+  if (tool == NO_TOOL) return;
   choose(tool);
   open_parameters(button);
 }

@@ -12,6 +12,12 @@ void show_button(Group group, int index, bool pressed);
 // pressed. For the groups that keep a pressed button.
 void PAL_SET_PRESSED(Group group, int index);
 
+// What the buttons choose that have more to say than their tool's number.
+int16_t line_tool();  // a chain of lines while LINE_MODE is above 0
+int16_t expanded_line_tool();
+int16_t clipboard_copy_tool();   // 0 where pictures do not reach the clipboard; the user has been told
+int16_t clipboard_paste_tool();  // WORK takes the clipboard's picture, to float above DRAW
+
 namespace cmd_win {
 
 void Form_Load();

@@ -1,13 +1,18 @@
 // The shared procedures of the palette and of the parameter windows that its buttons open.
 #pragma once
 
+#include <cstdint>
+
 namespace kiso {
 
 void SCANNER_BUTTON();  // FILE_B(7) is there as long as a scanner is installed
 
-void PARAM_WIN_SHOW(int tool);  // the parameter window of that tool, if it has one
-void PARAM_WIN_CLOSE();         // unloads those that do not belong to CUR_TOOL
-void PARAM_WIN_HIDE();          // the open ones, while the program asks whether to end
+// The parameter windows.
+enum class Param : int8_t { none = -1, FUZZY_WIN, SPRAY_WIN, HSET_WIN, DEEP_WIN };
+
+void PARAM_WIN_SHOW(Param window);
+void PARAM_WIN_CLOSE(Param but);  // unloads all but that one
+void PARAM_WIN_HIDE();            // the open ones, while the program asks whether to end
 void PARAM_WIN_SHOW_AGAIN();
 void PARAM_WIN_UNLOAD();
 

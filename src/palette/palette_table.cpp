@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "frame/usr_sub.h"
+#include "palette/cmd_click.h"
 #include "platform/text/text.h"
 
 namespace kiso {
@@ -15,7 +16,7 @@ using P = Panel;
 using enum Param;
 
 constexpr PalButton PALETTE[] = {
-    // group, index, panel, row, column, right click, tool, name, Japanese
+    // group, index, panel, row, column, right click, tool, name, Japanese, chooses
     {ROOT_B, 0, P::ROOT_B_BASE, 0, 0, none, NO_TOOL, "Draw", "描画"},
     {ROOT_B, 1, P::ROOT_B_BASE, 0, 3, none, NO_TOOL, "Expand", "拡大"},
     {ROOT_B, 2, P::ROOT_B_BASE, 1, 0, none, NO_TOOL, "File", "ファイル"},
@@ -30,7 +31,7 @@ constexpr PalButton PALETTE[] = {
 
     {CMD_B, 0, P::ROOT_M0, 0, 0, none, 1, nullptr, "点"},
     {CMD_B, 1, P::ROOT_M0, 0, 1, none, 2, nullptr, "自由線"},
-    {CMD_B, 2, P::ROOT_M0, 0, 2, none, 3, nullptr, "直線"},
+    {CMD_B, 2, P::ROOT_M0, 0, 2, none, 3, nullptr, "直線", line_tool},
     {CMD_B, 3, P::ROOT_M0, 0, 3, none, 4, nullptr, "四角"},
     {CMD_B, 4, P::ROOT_M0, 1, 0, none, 5, nullptr, "四角塗り"},
     {CMD_B, 5, P::ROOT_M0, 1, 1, none, 6, nullptr, "円"},
@@ -46,8 +47,8 @@ constexpr PalButton PALETTE[] = {
     {CMD_B, 15, P::ROOT_M4, 2, 3, none, 15, nullptr, "輪郭の下側を塗る"},
     {CMD_B, 16, P::ROOT_M4, 0, 1, none, 16, nullptr, "色の反転"},
     {CMD_B, 17, P::ROOT_M6, 0, 0, none, 17, nullptr, "色の置き換え"},
-    {CMD_B, 18, P::ROOT_M4, 1, 0, none, 18, nullptr, "クリップボードへコピー"},
-    {CMD_B, 19, P::ROOT_M4, 1, 1, none, 19, nullptr, "クリップボードから貼り付け"},
+    {CMD_B, 18, P::ROOT_M4, 1, 0, none, 18, nullptr, "クリップボードへコピー", clipboard_copy_tool},
+    {CMD_B, 19, P::ROOT_M4, 1, 1, none, 19, nullptr, "クリップボードから貼り付け", clipboard_paste_tool},
     {CMD_B, 20, P::ROOT_M0, 1, 3, none, NO_TOOL, "Write word", "文字"},
     {CMD_B, 21, P::ROOT_M4, 1, 2, SPRAY_WIN, 21, nullptr, "スプレー"},
     {CMD_B, 22, P::ROOT_M4, 1, 3, SPRAY_WIN, 22, nullptr, "マスクスプレー"},
@@ -103,7 +104,7 @@ constexpr PalButton PALETTE[] = {
     {EXP_M1, 9, P::EXP_M1, 0, 2, none, 14, nullptr, "輪郭の上側を塗る"},
     {EXP_M1, 10, P::EXP_M1, 0, 3, none, 15, nullptr, "輪郭の下側を塗る"},
     {EXP_M1, 11, P::EXP_M0, 1, 2, FUZZY_WIN, 23, nullptr, "似た色のマスクペン"},
-    {EXP_M1, 12, P::EXP_M0, 0, 1, none, 11010, "Line", "直線"},
+    {EXP_M1, 12, P::EXP_M0, 0, 1, none, 11010, "Line", "直線", expanded_line_tool},
     {EXP_M1, 13, P::EXP_M0, 0, 2, none, 11003, nullptr, "四角"},
     {EXP_M1, 14, P::EXP_M0, 2, 2, none, 11004, nullptr, "円"},
     {EXP_M1, 15, P::EXP_M0, 2, 3, none, 11005, "Circlefill", "円塗り"},
@@ -164,7 +165,7 @@ constexpr PanelPlace PANELS[] = {
 };
 
 // What a right click opens, as the tool tip tells it.
-constexpr const char* RIGHT_CLICK[] = {"", "似た色の条件", "スプレーの強さ", "Vの変化量", "濃度バランス"};
+constexpr const char* RIGHT_CLICK[] = {"似た色の条件", "スプレーの強さ", "Vの変化量", "濃度バランス"};
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "palette/cmd_win.h"
+#include "palette/palette.h"
 
 namespace kiso {
 
@@ -29,9 +30,6 @@ enum class Panel : uint8_t {
   WINDOW
 };
 
-// The parameter window that a right click opens.
-enum class Param : uint8_t { none, FUZZY_WIN, SPRAY_WIN, HSET_WIN, DEEP_WIN };
-
 constexpr int16_t NO_TOOL = -1;  // the button is a command
 
 struct PalButton {
@@ -39,10 +37,12 @@ struct PalButton {
   int8_t index;
   Panel panel;
   int8_t row, column;
-  Param right;
+  Param right;  // what a right click opens
   int16_t tool;
   const char* name;      // null: the tool's status text says it
   const char* japanese;  // the same for a reader of Japanese
+  // The tool that a click chooses, where that hangs on more than the button; NO_TOOL: none, the user has been told.
+  int16_t (*chooses)() = nullptr;
 };
 
 // In the order of the groups, each by its index.

@@ -12,7 +12,7 @@ namespace kiso {
 namespace param_win {
 namespace {
 
-enum Which : int { FUZZY, SPRAY, HSET, DEEP };
+enum Which : int { FUZZY, SPRAY, HSET, DEEP };  // as Param
 
 struct WindowRow {
   Window* window;
@@ -29,16 +29,6 @@ constexpr WindowRow WINDOWS[] = {
     {&HSET_WIN, &HSET_ON, " HSET 設定", &HSET_WIN.Frame1, "Vの変化量 (%)", 1, 44, &HSET_WIN.Command3},
     // The word Fuzzy is what this window has always shown.
     {&DEEP_WIN, &DEEP_ON, " Fuzzy設定", &DEEP_WIN.Frame1, "濃度バランス", 1, 44, nullptr},
-};
-
-// The tools of each window. One that only opens it does not keep it open at the next change of tool.
-constexpr struct ToolWindow {
-  int16_t tool;
-  Which window;
-  bool keeps_open;
-} TOOL_WINDOWS[] = {
-    {21, SPRAY, true}, {22, SPRAY, true}, {23, FUZZY, true}, {24, FUZZY, true}, {26, FUZZY, true},    {32, HSET, true},
-    {33, HSET, true},  {34, SPRAY, true}, {35, SPRAY, true}, {36, DEEP, true},  {11006, HSET, false},
 };
 
 struct BarRow {
@@ -154,11 +144,6 @@ void design() {
   design_inside(W, [] { set_defaults(W); });
 }
 
-bool keeps_open(Which window, int tool) {
-  return std::ranges::any_of(TOOL_WINDOWS,
-                             [&](const ToolWindow& t) { return t.window == window && t.tool == tool && t.keeps_open; });
-}
-
 }  // namespace
 }  // namespace param_win
 
@@ -174,15 +159,13 @@ SprayWin SPRAY_WIN;
 HsetWin HSET_WIN;
 DeepWin DEEP_WIN;
 
-void PARAM_WIN_SHOW(int tool) {
-  for (const ToolWindow& t : TOOL_WINDOWS) {
-    if (t.tool == tool) WINDOWS[t.window].window->Show(&P_WIN);
-  }
+void PARAM_WIN_SHOW(Param window) {
+  if (window != Param::none) WINDOWS[static_cast<int>(window)].window->Show(&P_WIN);
 }
 
-void PARAM_WIN_CLOSE() {
+void PARAM_WIN_CLOSE(Param but) {
   for (const Which which : {SPRAY, FUZZY, HSET, DEEP}) {
-    if (!keeps_open(which, CUR_TOOL)) WINDOWS[which].window->Unload();
+    if (which != static_cast<int>(but)) WINDOWS[which].window->Unload();
   }
 }
 

@@ -59,7 +59,7 @@ void TOOL_CHANGED() {
   SET_CURSOR(tool.cursor);
   WORK.Visible(tool.floats == Floats::WORK);
   WORD.Visible(tool.floats == Floats::WORD);
-  PARAM_WIN_CLOSE();
+  PARAM_WIN_CLOSE(tool.param);
   if (STATUS_ON == 1) INF_CMD.Caption(tool.inf_cmd);
 }
 

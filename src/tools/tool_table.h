@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <span>
 
+#include "palette/palette.h"
+
 namespace kiso {
 
 using PointProc = void (*)(float X, float Y);  // DRAW pixels
@@ -38,6 +40,7 @@ struct ToolRow {
   bool holds_stroke = false;  // the stroke goes on between clicks: PEN_DOWN stays 1 after the release
   bool each_press = false;    // two fast clicks are two presses, not a press and a double click
   Floats floats = Floats::nothing;
+  Param param = Param::none;  // the parameter window that stays open with it
 };
 
 // A tool of several clicks that waits for its next one; what lies on DRAW is its own.

@@ -1,7 +1,7 @@
 // The windows of the tools' numbers: what opens and closes them, what their bars and buttons set.
 #include "palette/param_win.h"
 #include "colour/colour_test.h"
-#include "palette/palette.h"
+#include "palette/palette_table.h"
 
 namespace kiso {
 namespace {
@@ -10,6 +10,13 @@ struct ParamWindows : ColourTest {
   static void choose(int16_t tool) {
     CUR_TOOL = tool;
     TOOL_CHANGED();
+  }
+  // What a right click on the button of that tool opens.
+  static Param right_click(int tool) {
+    for (const PalButton& b : palette_buttons()) {
+      if (b.tool == tool && b.right != Param::none) return b.right;
+    }
+    return Param::none;
   }
   static const Window* open_window() {
     const Window* found = nullptr;
@@ -30,7 +37,7 @@ TEST_F(ParamWindows, EachToolOpensItsWindowAndKeepsIt) {
               {34, &SPRAY_WIN}, {35, &SPRAY_WIN}, {32, &HSET_WIN},  {33, &HSET_WIN},  {36, &DEEP_WIN}};
   for (const auto& row : rows) {
     choose(row.tool);
-    PARAM_WIN_SHOW(row.tool);
+    PARAM_WIN_SHOW(right_click(row.tool));
     EXPECT_EQ(open_window(), row.window) << row.tool;
     EXPECT_EQ(row.window->owner(), &P_WIN);
     EXPECT_TRUE(row.window->Visible());
@@ -44,14 +51,14 @@ TEST_F(ParamWindows, EachToolOpensItsWindowAndKeepsIt) {
 TEST_F(ParamWindows, ToolsWithoutNumbersOpenNone) {
   for (const int16_t tool : {0, 1, 10, 17, 25, 30, 31, 1000, 11001}) {
     choose(tool);
-    PARAM_WIN_SHOW(tool);
+    PARAM_WIN_SHOW(right_click(tool));
     EXPECT_EQ(open_window(), nullptr) << tool;
   }
 }
 
 TEST_F(ParamWindows, AWindowStaysWhileItsToolsChangeAmongThemselves) {
   choose(24);
-  PARAM_WIN_SHOW(24);
+  PARAM_WIN_SHOW(right_click(24));
   choose(23);
   EXPECT_TRUE(FUZZY_WIN.Loaded());
   choose(25);
@@ -61,17 +68,17 @@ TEST_F(ParamWindows, AWindowStaysWhileItsToolsChangeAmongThemselves) {
 // The box of the V pens at expansion opens the window, but is not among the tools that keep it.
 TEST_F(ParamWindows, TheExpandedVBoxOpensHsetUntilTheNextChange) {
   choose(11006);
-  PARAM_WIN_SHOW(11006);
+  PARAM_WIN_SHOW(right_click(11006));
   EXPECT_TRUE(HSET_WIN.Loaded());
   TOOL_CHANGED();
   EXPECT_FALSE(HSET_WIN.Loaded());
 }
 
 TEST_F(ParamWindows, FlagsTellWhichAreLoaded) {
-  PARAM_WIN_SHOW(23);
-  PARAM_WIN_SHOW(21);
-  PARAM_WIN_SHOW(32);
-  PARAM_WIN_SHOW(36);
+  PARAM_WIN_SHOW(right_click(23));
+  PARAM_WIN_SHOW(right_click(21));
+  PARAM_WIN_SHOW(right_click(32));
+  PARAM_WIN_SHOW(right_click(36));
   EXPECT_EQ(FUZZY_ON + SPRAY_ON + HSET_ON + DEEP_ON, 4);
   PARAM_WIN_HIDE();
   EXPECT_FALSE(FUZZY_WIN.Visible() || SPRAY_WIN.Visible() || HSET_WIN.Visible() || DEEP_WIN.Visible());
@@ -86,7 +93,7 @@ TEST_F(ParamWindows, FlagsTellWhichAreLoaded) {
 }
 
 TEST_F(ParamWindows, HaveTheirCaptions) {
-  for (const int tool : {23, 21, 32, 36}) PARAM_WIN_SHOW(tool);
+  for (const int tool : {23, 21, 32, 36}) PARAM_WIN_SHOW(right_click(tool));
   EXPECT_EQ(FUZZY_WIN.Caption(), "Kiso  Fuzzy設定");
   EXPECT_EQ(SPRAY_WIN.Caption(), "Kiso  Spray設定");
   EXPECT_EQ(HSET_WIN.Caption(), "Kiso  HSET 設定");
@@ -99,11 +106,11 @@ TEST_F(ParamWindows, HaveTheirCaptions) {
 
 TEST_F(ParamWindows, OpenOnTopOfThePalette) {
   CMD_WIN.Move(3000, 4500);
-  PARAM_WIN_SHOW(36);
+  PARAM_WIN_SHOW(right_click(36));
   EXPECT_DOUBLE_EQ(DEEP_WIN.Left(), 2985);
   EXPECT_DOUBLE_EQ(DEEP_WIN.Top(), 4485);
   CMD_WIN.Move(0, 10);
-  PARAM_WIN_SHOW(23);
+  PARAM_WIN_SHOW(right_click(23));
   EXPECT_DOUBLE_EQ(FUZZY_WIN.Left(), 0);
   EXPECT_DOUBLE_EQ(FUZZY_WIN.Top(), 0);
 }
@@ -165,7 +172,7 @@ TEST_F(ParamWindows, DefaultSetsTheDefaults) {
   FUZZY_H = 100, FUZZY_S = 101, FUZZY_V = 102;
   SPRAY_MS = 900;
   HSET_V = 0;
-  for (const int tool : {23, 21, 32}) PARAM_WIN_SHOW(tool);
+  for (const int tool : {23, 21, 32}) PARAM_WIN_SHOW(right_click(tool));
   click(FUZZY_WIN.Command3);
   click(SPRAY_WIN.Command3);
   click(HSET_WIN.Command3);
@@ -178,24 +185,24 @@ TEST_F(ParamWindows, DefaultSetsTheDefaults) {
 }
 
 TEST_F(ParamWindows, ClosingLosesNothing) {
-  PARAM_WIN_SHOW(24);
+  PARAM_WIN_SHOW(right_click(24));
   FUZZY_WIN.H_BAR.Value(99);
   FUZZY_WIN.Unload();
   EXPECT_EQ(FUZZY_H, 99);
-  PARAM_WIN_SHOW(24);
+  PARAM_WIN_SHOW(right_click(24));
   EXPECT_EQ(FUZZY_WIN.H_BAR.Value(), 99);
 }
 
 // What a settings file can bring: it is refused when the window opens.
 TEST_F(ParamWindows, ANumberOutsideOfItsBarEndsTheProgramWithThePlatformsError) {
   FUZZY_H = 200;
-  EXPECT_FALSE(enter([] { PARAM_WIN_SHOW(23); }));
+  EXPECT_FALSE(enter([] { PARAM_WIN_SHOW(right_click(23)); }));
   EXPECT_EQ(fatal_error(), 380);
 }
 
 TEST_F(ParamWindows, ASprayIntervalOfZeroIsRefusedToo) {
   SPRAY_MS = 0;
-  EXPECT_FALSE(enter([] { PARAM_WIN_SHOW(21); }));
+  EXPECT_FALSE(enter([] { PARAM_WIN_SHOW(right_click(21)); }));
   EXPECT_EQ(fatal_error(), 380);
 }
 
