@@ -51,16 +51,16 @@ TEST(PaintA, WithTheColourThatIsThereChangesNothingAndCommits) {
 
 // A fill leaves its brush on DRAW; the next press takes it off.
 TEST(PaintA, LeavesTheBoxThatFollowsHollow) {
-  stage::stage(plain(5, 4));
+  stage::stage({"#.....", "#.....", "#.....", "#....."});
   select_tool(PAINT_A);
   target_colour('y');
   click(0, 0);
   select_tool(4);
   target_colour('r');
-  press(0, 0);
-  drag(4, 3);
-  release(4, 3);
-  EXPECT_PIC({"rrrrr", "ryyyr", "ryyyr", "rrrrr"});
+  press(1, 0);
+  drag(5, 3);
+  release(5, 3);
+  EXPECT_PIC({"yrrrrr", "yr...r", "yr...r", "yrrrrr"});
 }
 
 TEST(PaintA, EndsWhereTheViewEnds) {
