@@ -29,6 +29,7 @@ void design_buttons() {
     button.design(left + b.column * CELL, top + b.row * CELL, CELL, CELL, box);
     button.accessible_name = name_of(b);
     button.ToolTip(tool_tip(b));
+    button.faint = b.coming;
     show_button(b.group, b.index, false);
   }
 }

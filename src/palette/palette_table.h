@@ -41,6 +41,7 @@ struct PalButton {
   int16_t tool;
   const char* name;      // null: the tool's status text says it
   const char* japanese;  // the same for a reader of Japanese
+  bool coming = false;   // what it leads to is not there yet: it looks faint and says so, but takes every click
   // The tool that a click chooses, where that hangs on more than the button; NO_TOOL: none, the user has been told.
   int16_t (*chooses)() = nullptr;
 };
@@ -75,7 +76,7 @@ std::span<const PanelPlace> palette_panels();
 const PanelPlace& place_of(Panel panel);
 
 std::string name_of(const PalButton& button);  // what a screen reader says
-// Name, Japanese name, and what a right click opens.
+// Name, Japanese name, whether it is still to come, and what a right click opens.
 std::string tool_tip(const PalButton& button);
 
 }  // namespace kiso

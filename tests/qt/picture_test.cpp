@@ -139,6 +139,22 @@ TEST_F(Pictures, WithoutAutoRedrawTheScreenIsShownAndTheImageComesBack) {
   EXPECT_NE(look_at(widget(P.DRAW)).pixelColor(7, 8), Qt::red);
 }
 
+TEST_F(Pictures, AFaintImageHasNoColoursAndLittleContrast) {
+  logic([] {
+    TOOL.CMD_B(0).faint = true;
+    TOOL.Show(&P);
+  });
+  settle();
+  const QImage seen = widget(TOOL.CMD_B(0))->grab().toImage();
+  for (int y = 0; y < seen.height(); ++y) {
+    for (int x = 0; x < seen.width(); ++x) {
+      const QColor c = seen.pixelColor(x, y);
+      EXPECT_TRUE(c.red() == c.green() && c.green() == c.blue()) << x << " " << y;
+      EXPECT_GT(c.red(), 100) << x << " " << y;
+    }
+  }
+}
+
 TEST_F(Pictures, ImageShowsItsCellOfTheSheet) {
   logic([] { TOOL.Show(); });
   const QImage seen = look_at(widget(TOOL.CMD_B(0)));

@@ -154,6 +154,7 @@ void ImageBox::back_to_design() {
   Control::back_to_design();
   sheet_ = nullptr;
   cell_x_ = cell_y_ = 0;
+  faint = false;
 }
 
 // --- label
@@ -197,10 +198,15 @@ void CommandButton::Caption(std::string text) {
   note(TEXT);
 }
 
+void CommandButton::held(bool v) {
+  touched(), held_ = v;
+  note(LOOK);
+}
+
 void CommandButton::back_to_design() {
   Control::back_to_design();
   caption_.clear();
-  is_default = is_cancel = false;
+  held_ = is_default = is_cancel = false;
 }
 
 void Frame::Caption(std::string text) {

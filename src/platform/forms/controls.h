@@ -124,6 +124,7 @@ class ImageBox : public Control, public PointerEvents {
   // The box shows width x height pixels (its own size) of the sheet from x, y on.
   void Cell(const char* sheet, int x, int y);
   void Refresh();
+  bool faint = false;  // shown pale and without colours, though it takes every click; for the design
 
  protected:
   void back_to_design() override;
@@ -163,6 +164,8 @@ class CommandButton : public Control {
   CommandButton(Window& window, const char* name, int index = -1) : Control(window, Kind::button, name, index) {}
   const std::string& Caption() const { return touched(), caption_; }
   void Caption(std::string text);
+  bool held() const { return touched(), held_; }
+  void held(bool v);                           // looks held down: what it opens is open
   bool is_default = false, is_cancel = false;  // pressed by Enter, by Escape; for the design
   Event<> Click;
 
@@ -171,6 +174,7 @@ class CommandButton : public Control {
 
  private:
   std::string caption_;
+  bool held_ = false;
 };
 
 enum class Lie : uint8_t { horizontal, vertical };

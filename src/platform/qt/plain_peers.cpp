@@ -99,6 +99,15 @@ class LabelPeer final : public PointedPeer<forms::Label> {
   QBasicTimer late_;
 };
 
+// Grey, and half way to the face of the window.
+QImage faint(const QImage& cell) {
+  QImage grey = cell.convertToFormat(QImage::Format_Grayscale8).convertToFormat(QImage::Format_RGB32);
+  QColor veil = colour_of(0x8000000F);
+  veil.setAlpha(140);
+  QPainter(&grey).fillRect(grey.rect(), veil);
+  return grey;
+}
+
 class ImagePeer final : public PointedPeer<forms::ImageBox> {
  public:
   using PointedPeer::PointedPeer;
@@ -106,7 +115,9 @@ class ImagePeer final : public PointedPeer<forms::ImageBox> {
  protected:
   void paint(QPainter& p, const QRect& all) override {
     const forms::Sheet* sheet = find_sheet(model_.sheet());
-    if (sheet) p.drawImage(QPoint(), picture_of(*sheet), QRect(QPoint(model_.cell_x(), model_.cell_y()), all.size()));
+    if (!sheet) return;
+    const QImage cell = picture_of(*sheet).copy(QRect(QPoint(model_.cell_x(), model_.cell_y()), all.size()));
+    p.drawImage(QPoint(), model_.faint ? faint(cell) : cell);
   }
 };
 
