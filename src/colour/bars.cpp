@@ -1,7 +1,10 @@
 // Pane R/H: two groups of three bars that follow each other. Each group has a lock that is set while code moves its
 // bars, so that their Change events, which fire at once, do not come back to the colour.
+#include <algorithm>
+
 #include "colour/col_win_rules.h"
 #include "colour/colour.h"
+#include "platform/forms/layout.h"
 #include "platform/text/text.h"
 
 namespace kiso::col_win {
@@ -92,20 +95,26 @@ void wire_bars(ColWin& win) {
   for (const BarRow& row : BARS) (win.*row.bar).Change = row.change;
 }
 
+// A letter, its bar, and the number, which has room for its widest; the bar takes what is left.
 void design_bars() {
+  constexpr int LEFT = 4, RIGHT = 101, LETTER = 10;
+  int letter_width = LETTER;
+  for (const BarRow& row : BARS) letter_width = std::max(letter_width, forms::text_width(row.caption));
+  const int bar_left = LEFT + letter_width + 1;
+  const int value_left = RIGHT - forms::number_width(3);
   PictureBox* pane = &COL_WIN.CSEL_BASE(1);
   double top = 3;
   for (const BarRow& row : BARS) {
     ScrollBar& bar = COL_WIN.*row.bar;
     Label& value = COL_WIN.*row.value;
     Label& letter = COL_WIN.*row.letter;
-    place(letter, 4, top + 1, 10, 16, pane);
+    place(letter, LEFT, top + 1, letter_width, 16, pane);
     letter.Caption(row.caption);
     letter.ForeColor(row.ink);
-    place(bar, 15, top, 62, 16, pane);
+    place(bar, bar_left, top, value_left - bar_left, 16, pane);
     bar.range(0, row.max, 0, 1, 16);
     bar.ToolTip(row.name);
-    place(value, 78, top + 1, 22, 16, pane);
+    place(value, value_left, top + 1, RIGHT - value_left, 16, pane);
     value.align = Label::Align::right;
     value.Caption(row.start_value);
     top += row.bar == &ColWin::B_BAR ? 24 : 20;

@@ -3,6 +3,7 @@
 
 #include "colour/col_win_rules.h"
 #include "colour/colour.h"
+#include "platform/forms/layout.h"
 
 namespace kiso::col_win {
 
@@ -89,8 +90,10 @@ void design_dictionary() {
   COL_WIN.Label7.design(MODE_LEFT, MODE_TOP, MODE_WIDTH, HEIGHT, pane);
   COL_WIN.Label7.transparent = false;
   COL_WIN.Label7.align = Label::Align::centre;
-  COL_WIN.Label7.font({"", 8, false, false});
   COL_WIN.Label7.Caption("WriteMode");
+  Font font{.size = 8};
+  while (font.size > 4 && forms::text_width("WriteMode", font) > MODE_WIDTH / TWIPS) font.size -= 0.75;
+  COL_WIN.Label7.font(font);
   COL_WIN.Label7.ToolTip("辞書に書き込み中 (押すと読み出しへ)");
   COL_WIN.Command4.design(MODE_LEFT, MODE_TOP, MODE_WIDTH, HEIGHT, pane);
   COL_WIN.Command4.Caption("ReadMode");

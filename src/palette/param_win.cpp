@@ -5,6 +5,7 @@
 #include "frame/p_win.h"
 #include "palette/cmd_win.h"
 #include "palette/palette.h"
+#include "platform/forms/layout.h"
 #include "platform/text/text.h"
 
 namespace kiso {
@@ -20,15 +21,15 @@ struct WindowRow {
   const char* caption;  // behind APP_TITLE
   Frame* frame;
   const char* frame_caption;
-  int rows, bar_left;       // how many bars, and where they begin
+  int rows;                 // how many bars
   CommandButton* Command3;  // sets the defaults; DEEP_WIN has none
 };
 constexpr WindowRow WINDOWS[] = {
-    {&FUZZY_WIN, &FUZZY_ON, " Fuzzy設定", &FUZZY_WIN.Frame1, "似た色の条件", 3, 26, &FUZZY_WIN.Command3},
-    {&SPRAY_WIN, &SPRAY_ON, " Spray設定", &SPRAY_WIN.Frame1, "強さ", 1, 30, &SPRAY_WIN.Command3},
-    {&HSET_WIN, &HSET_ON, " HSET 設定", &HSET_WIN.Frame1, "Vの変化量 (%)", 1, 44, &HSET_WIN.Command3},
+    {&FUZZY_WIN, &FUZZY_ON, " Fuzzy設定", &FUZZY_WIN.Frame1, "似た色の条件", 3, &FUZZY_WIN.Command3},
+    {&SPRAY_WIN, &SPRAY_ON, " Spray設定", &SPRAY_WIN.Frame1, "強さ", 1, &SPRAY_WIN.Command3},
+    {&HSET_WIN, &HSET_ON, " HSET 設定", &HSET_WIN.Frame1, "Vの変化量 (%)", 1, &HSET_WIN.Command3},
     // The word Fuzzy is what this window has always shown.
-    {&DEEP_WIN, &DEEP_ON, " Fuzzy設定", &DEEP_WIN.Frame1, "濃度バランス", 1, 44, nullptr},
+    {&DEEP_WIN, &DEEP_ON, " Fuzzy設定", &DEEP_WIN.Frame1, "濃度バランス", 1, nullptr},
 };
 
 struct BarRow {
@@ -52,20 +53,21 @@ constexpr BarRow BARS[] = {
     {DEEP, &DEEP_WIN.DEEP_BAR, nullptr, &DEEP_BAL, 0, 100, 50, 1, "濃度バランス", bar_changed<5>},
 };
 
-// What stands beside the bars, in a row of its window: pixels from the frame's left edge.
+// What stands before and behind the bars, from the left to the right.
 constexpr struct LabelRow {
   Which window;
   Label* label;
   const char* text;
-  int row, left, width;
+  int row;
+  bool behind;
 } LABELS[] = {
-    {FUZZY, &FUZZY_WIN.Label1, "H", 0, 10, 14},   {FUZZY, &FUZZY_WIN.Label4, "±", 0, 166, 14},
-    {FUZZY, &FUZZY_WIN.Label2, "S", 1, 10, 14},   {FUZZY, &FUZZY_WIN.Label5, "±", 1, 166, 14},
-    {FUZZY, &FUZZY_WIN.Label3, "V", 2, 10, 14},   {FUZZY, &FUZZY_WIN.Label6, "±", 2, 166, 14},
-    {SPRAY, &SPRAY_WIN.Label1, "弱", 0, 12, 16},  {SPRAY, &SPRAY_WIN.Label2, "強", 0, 167, 16},
-    {HSET, &HSET_WIN.Label1, "V", 0, 10, 12},     {HSET, &HSET_WIN.Label2, "暗", 0, 27, 16},
-    {HSET, &HSET_WIN.Label3, "明", 0, 165, 16},   {DEEP, &DEEP_WIN.Label1, "Base", 0, 10, 32},
-    {DEEP, &DEEP_WIN.Label2, "Draw", 0, 166, 40},
+    {FUZZY, &FUZZY_WIN.Label1, "H", 0, false},  {FUZZY, &FUZZY_WIN.Label4, "±", 0, true},
+    {FUZZY, &FUZZY_WIN.Label2, "S", 1, false},  {FUZZY, &FUZZY_WIN.Label5, "±", 1, true},
+    {FUZZY, &FUZZY_WIN.Label3, "V", 2, false},  {FUZZY, &FUZZY_WIN.Label6, "±", 2, true},
+    {SPRAY, &SPRAY_WIN.Label1, "弱", 0, false}, {SPRAY, &SPRAY_WIN.Label2, "強", 0, true},
+    {HSET, &HSET_WIN.Label1, "V", 0, false},    {HSET, &HSET_WIN.Label2, "暗", 0, false},
+    {HSET, &HSET_WIN.Label3, "明", 0, true},    {DEEP, &DEEP_WIN.Label1, "Base", 0, false},
+    {DEEP, &DEEP_WIN.Label2, "Draw", 0, true},
 };
 
 void take_value(const BarRow& row) {
@@ -96,23 +98,61 @@ void load(Which which) {
   }
 }
 
-constexpr int FRAME_LEFT = 8, FRAME_WIDTH = 216, FIRST_ROW = 26, ROW_HEIGHT = 24, BAR_RIGHT = 162;
+constexpr int FRAME_LEFT = 8, FRAME_WIDTH = 216, FIRST_ROW = 26, ROW_HEIGHT = 24;
+constexpr int LEFT = 10, RIGHT = 206, GAP = 5;  // of what stands in the frame, and between two of them
 
-void design_bars(Which which) {
+// Where the bars of a window begin and end: the widest row of labels and numbers has its place beside them.
+struct Span {
+  int left, right;
+};
+Span bar_span(Which which) {
+  Span bar{LEFT, RIGHT};
+  for (int line = 0; line < WINDOWS[which].rows; ++line) {
+    Span here{LEFT, RIGHT};
+    for (const LabelRow& row : LABELS) {
+      if (row.window != which || row.row != line) continue;
+      const int width = forms::text_width(row.text) + GAP;
+      row.behind ? here.right -= width : here.left += width;
+    }
+    bar = {std::max(bar.left, here.left), std::min(bar.right, here.right)};
+  }
+  const bool numbers =
+      std::ranges::any_of(BARS, [which](const BarRow& row) { return row.window == which && row.value; });
+  if (numbers) bar.right -= forms::number_width(3);
+  return bar;
+}
+
+void design_bars(Which which, Span span) {
   const WindowRow& form = WINDOWS[which];
   int top = FIRST_ROW;
   for (const BarRow& row : BARS) {
     if (row.window != which) continue;
-    row.bar->design(form.bar_left, top, BAR_RIGHT - form.bar_left, 18, form.frame);
+    row.bar->design(span.left, top, span.right - span.left, 18, form.frame);
     row.bar->range(row.min, row.max, row.start, 1, row.large);
     row.bar->accessible_name = row.name;
     row.bar->Change = row.change;
     if (row.value) {
-      row.value->design(180, top + 2, 26, 16, form.frame);
+      const int width = forms::number_width(3);
+      row.value->design(RIGHT - width, top + 2, width, 16, form.frame);
       row.value->align = Label::Align::right;
       row.value->Caption(text::Str(row.start));
     }
     top += ROW_HEIGHT;
+  }
+}
+
+void design_labels(Which which, Span span) {
+  for (int line = 0; line < WINDOWS[which].rows; ++line) {
+    int before = LEFT;
+    int behind = span.right + GAP;
+    for (const LabelRow& row : LABELS) {
+      if (row.window != which || row.row != line) continue;
+      const int width = forms::text_width(row.text);
+      int& left = row.behind ? behind : before;
+      row.label->design(left, FIRST_ROW + ROW_HEIGHT * line + 2, width, 16, WINDOWS[which].frame);
+      row.label->Caption(row.text);
+      left += width + GAP;
+    }
   }
 }
 
@@ -122,12 +162,9 @@ void design_inside(Which which, void (*default_click)()) {
   form.window->design(0, 0, FRAME_WIDTH + 2 * FRAME_LEFT, frame_height + (form.Command3 ? 46 : 14));
   form.frame->design(FRAME_LEFT, 6, FRAME_WIDTH, frame_height);
   form.frame->Caption(form.frame_caption);
-  design_bars(which);
-  for (const LabelRow& row : LABELS) {
-    if (row.window != which) continue;
-    row.label->design(row.left, FIRST_ROW + ROW_HEIGHT * row.row + 2, row.width, 16, form.frame);
-    row.label->Caption(row.text);
-  }
+  const Span span = bar_span(which);
+  design_bars(which, span);
+  design_labels(which, span);
   if (!form.Command3) return;
   form.Command3->design(FRAME_LEFT + FRAME_WIDTH - 72, frame_height + 14, 72, 24);
   form.Command3->Caption("Default");

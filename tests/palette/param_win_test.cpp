@@ -48,6 +48,29 @@ TEST_F(ParamWindows, EachToolOpensItsWindowAndKeepsIt) {
   }
 }
 
+TEST_F(ParamWindows, NumbersHaveRoomForTheirWidestValueAndNothingOverlaps) {
+  for (const int tool : {23, 21, 32, 36}) PARAM_WIN_SHOW(tool);
+  for (const Label* value : {&FUZZY_WIN.H_VAL, &FUZZY_WIN.S_VAL, &FUZZY_WIN.V_VAL, &HSET_WIN.H_VAL}) {
+    int width = 0;
+    int height = 0;
+    screen.text_size(" 255", Font{}, 0, width, height);
+    EXPECT_GE(value->Width(), width) << value->full_name();
+  }
+  for (Window* window : std::initializer_list<Window*>{&FUZZY_WIN, &SPRAY_WIN, &HSET_WIN, &DEEP_WIN}) {
+    for (const Control* a : window->controls()) {
+      if (!a->container) continue;
+      EXPECT_GE(a->Left(), 0) << a->full_name();
+      EXPECT_LE(a->Left() + a->Width(), a->container->Width()) << a->full_name();
+      for (const Control* b : window->controls()) {
+        if (b == a || b->container != a->container) continue;
+        const bool apart = a->Left() + a->Width() <= b->Left() || b->Left() + b->Width() <= a->Left() ||
+                           a->Top() + a->Height() <= b->Top() || b->Top() + b->Height() <= a->Top();
+        EXPECT_TRUE(apart) << a->full_name() << " and " << b->full_name();
+      }
+    }
+  }
+}
+
 TEST_F(ParamWindows, ToolsWithoutNumbersOpenNone) {
   for (const int16_t tool : {0, 1, 10, 17, 25, 30, 31, 1000, 11001}) {
     choose(tool);

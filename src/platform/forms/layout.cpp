@@ -19,13 +19,6 @@ constexpr int OPTION_ROOM = 6;  // above and below the text of an option, togeth
 constexpr int BUTTON_ROOM = 12, BUTTON_SIDES = 24, BUTTON_LEAST = 76;
 constexpr int LINE_ROOM = 4, LIST_EDGE = 6, LIST_LEAST = 160;
 
-int text_width(const std::string& text) {
-  int w = 0;
-  int h = 0;
-  desktop().text_size(text, Font{}, 0, w, h);
-  return w;
-}
-
 int text_height(const std::string& text, int wrap = 0) {
   int w = 0;
   int h = 0;
@@ -105,6 +98,21 @@ int gap_between(const Row& above, const Row& below) {
 }
 
 }  // namespace
+
+int text_width(const std::string& text, const Font& font) {
+  int w = 0;
+  int h = 0;
+  desktop().text_size(text, font, 0, w, h);
+  return w;
+}
+
+int number_width(int digits) {
+  int widest = 0;
+  for (char digit = '0'; digit <= '9'; ++digit) {
+    widest = std::max(widest, text_width(" " + std::string(static_cast<size_t>(digits), digit)));
+  }
+  return widest;
+}
 
 const std::string& caption_of(const Control& c) {
   switch (c.kind) {

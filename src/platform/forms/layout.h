@@ -19,6 +19,11 @@ struct Cell {
 constexpr int EDGE = 12;    // from the window's edge to what stands in it
 constexpr int BETWEEN = 8;  // from button to button, from frame to frame
 
+// Pixels of a line of that text.
+int text_width(const std::string& text, const Font& font = {});
+// Of any number of so many digits, with the blank that stands before one that is not negative.
+int number_width(int digits);
+
 // The text that a label, button, option, check box or frame shows.
 const std::string& caption_of(const Control& control);
 void give_caption(Control& control, const std::string& text);
