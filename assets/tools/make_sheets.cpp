@@ -10,8 +10,8 @@
 
 namespace {
 
-// The button under every icon: light from the top left; a pressed face is brighter, so that the chosen tool stands out.
-constexpr uint32_t FACE = 0xFFD6D3CE, FACE_DOWN = 0xFFEDEBE6, LIGHT = 0xFFFFFFFF, SHADE = 0xFF85827C, SOFT = 0xFFBDBAB4;
+// The button under every icon: light from the top left; a pressed face is lit, so that the chosen tool stands out.
+constexpr uint32_t FACE = 0xFFD6D3CE, FACE_DOWN = 0xFFFFEDB0, LIGHT = 0xFFFFFFFF, SHADE = 0xFF85827C, SOFT = 0xFFBDBAB4;
 
 struct Picture {
   int width, height;
