@@ -22,6 +22,9 @@ void PICK_EXIT() {
 void show_pane() {
   for (int i = 0; i < COL_WIN.CSEL_BASE.count; ++i) COL_WIN.CSEL_BASE(i).Visible(i == COL_PANE);
   COL_WIN.CSEL_BASE(COL_PANE).ToFront();
+  COL_WIN.Command1.held(COL_PANE == 0);
+  COL_WIN.Command2.held(COL_PANE == 1);
+  COL_WIN.Command3.held(COL_PANE == 2);
   if (COL_PANE == 1) show_bars();
 }
 

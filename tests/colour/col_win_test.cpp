@@ -7,6 +7,51 @@ namespace {
 
 struct ColourWindow : ColourTest {};
 
+// --- what is seen
+
+// Letters twice as large as a display without fonts has them.
+struct LargeLetters : QuietDesktop {
+  void text_size(const std::string& text, const Font& font, int wrap, int& width, int& height) override {
+    QuietDesktop::text_size(text, font, wrap, width, height);
+    width *= 2;
+  }
+};
+
+TEST_F(ColourWindow, TheNumbersOfTheBarsHaveRoomForTheirWidestValue) {
+  LargeLetters large;
+  for (Desktop* letters : {static_cast<Desktop*>(&screen), static_cast<Desktop*>(&large)}) {
+    COL_WIN.Unload();
+    use_desktop(letters);
+    COL_WIN.Show();
+    const struct {
+      Label& value;
+      ScrollBar& bar;
+      const char* widest;
+    } rows[] = {{COL_WIN.R_VAL, COL_WIN.R_BAR, " 255"}, {COL_WIN.G_VAL, COL_WIN.G_BAR, " 255"},
+                {COL_WIN.B_VAL, COL_WIN.B_BAR, " 255"}, {COL_WIN.H_VAL, COL_WIN.H_BAR, "360"},
+                {COL_WIN.S_VAL, COL_WIN.S_BAR, "255"},  {COL_WIN.V_VAL, COL_WIN.V_BAR, "255"}};
+    for (const auto& row : rows) {
+      int width = 0;
+      int height = 0;
+      letters->text_size(row.widest, Font{}, 0, width, height);
+      EXPECT_GE(row.value.Width() / TWIPS, width) << row.value.name;
+      EXPECT_GE(row.value.Left(), row.bar.Left() + row.bar.Width()) << row.value.name;
+      EXPECT_LE(row.value.Left() + row.value.Width(), COL_WIN.CSEL_BASE(1).ScaleWidth()) << row.value.name;
+    }
+  }
+}
+
+TEST_F(ColourWindow, TheButtonOfTheOpenPaneLooksHeld) {
+  CommandButton* const buttons[] = {&COL_WIN.Command1, &COL_WIN.Command2, &COL_WIN.Command3};
+  for (const int pane : {2, 1, 0, 2}) {
+    click(*buttons[pane]);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(buttons[i]->held(), i == pane) << pane;
+  }
+  COL_WIN.Unload();
+  COL_WIN.Show();
+  EXPECT_TRUE(COL_WIN.Command3.held()) << "the pane that was open opens again";
+}
+
 // --- the colour boxes and the pick tool
 
 TEST_F(ColourWindow, ASecondClickOnTheSelectedColourTogglesThePickTool) {

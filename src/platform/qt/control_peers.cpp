@@ -28,8 +28,13 @@ class ButtonPeer final : public ControlPeer {
     return w;
   }
   void refresh(uint32_t changes) override {
+    auto* w = static_cast<QPushButton*>(widget());
+    if (changes & forms::LOOK) {
+      w->setCheckable(button_.held());
+      w->setChecked(button_.held());
+    }
     if (!(changes & (forms::TEXT | forms::GEOMETRY))) return;
-    static_cast<QPushButton*>(widget())->setText(caption(button_.Caption()));
+    w->setText(caption(button_.Caption()));
     fit_text();
   }
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
@@ -42,7 +47,9 @@ class ButtonPeer final : public ControlPeer {
 
  private:
   void click() {
+    const QPointer<QObject> alive(this);
     if (reachable()) user_event([this] { button_.Click.fire(button_.index); });
+    if (alive) update(forms::LOOK);  // the widget has changed its mark by itself
   }
   // Buttons keep their place whatever the font; a caption that is too wide for it gets smaller letters.
   void fit_text() {
