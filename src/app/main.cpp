@@ -49,5 +49,5 @@ void start(const std::string& command_line) {
 
 int main(int argc, char** argv) {
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed save, not the end
-  return qt::run_desktop(argc, argv, start);
+  return qt::run_desktop(argc, argv, "KISO_ICO", start);
 }

@@ -1,7 +1,11 @@
 #include "windows/help_win.h"
-#include "windows/windows.h"
 
+#include <algorithm>
+
+#include "colour/col_win.h"
+#include "palette/cmd_win.h"
 #include "windows/help_page.h"
+#include "windows/windows.h"
 
 namespace kiso {
 
@@ -9,8 +13,19 @@ namespace {
 
 constexpr int W = 600, H = 560;
 
+// Beside the palettes, on the side that has more room, and no wider than that.
+void place_help() {
+  const double palettes_left = std::min(CMD_WIN.Left(), COL_WIN.Left());
+  const double palettes_right = std::max(CMD_WIN.Left() + CMD_WIN.Width(), COL_WIN.Left() + COL_WIN.Width());
+  const double room_right = screen_width() - palettes_right;
+  const double width = std::min(HELP_WIN.Width(), std::max(palettes_left, room_right));
+  const double left = room_right > palettes_left ? palettes_right : palettes_left - width;
+  HELP_WIN.Move(left, (screen_height() - HELP_WIN.Height()) / 2, width, HELP_WIN.Height());
+}
+
 void design_help() {
-  HELP_WIN.design((screen_width() - W * TWIPS) / 2, (screen_height() - H * TWIPS) / 2, W, H, "Kiso Help");
+  HELP_WIN.design(0, 0, W, H, "Kiso Help");
+  HELP_WIN.escape_closes = true;
   HELP_WIN.Text1.design(0, 0, W, H);
   HELP_WIN.Text1.multi_line = true;
   HELP_WIN.Text1.read_only = true;
@@ -28,6 +43,7 @@ HelpWin HELP_WIN;
 HelpWin::HelpWin() : Window("HELP_WIN", Border::sizable, Scale::pixels, design_help) { Form_Resize = fill_window; }
 
 void HELP_SHOW() {
+  if (!HELP_WIN.Loaded()) place_help();
   HELP_WIN.Show();
   HELP_WIN.SetFocus();
 }

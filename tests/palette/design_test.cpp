@@ -68,6 +68,15 @@ TEST_F(Palette, EveryButtonStandsInItsPlace) {
   EXPECT_EQ(buttons, palette_buttons().size()) << "each stands in one place";
 }
 
+// Its click is as that of any other: the tables of clicks hold them all.
+TEST_F(Palette, AButtonOfWhatIsStillToComeLooksFaintAndSaysSo) {
+  for (const PalButton& b : palette_buttons()) {
+    const ImageBox& button = group_of(b.group).button(b.index);
+    EXPECT_EQ(button.faint, b.coming) << button.full_name();
+    EXPECT_EQ(button.ToolTip().find("(準備中)") != std::string::npos, b.coming) << button.full_name();
+  }
+}
+
 TEST_F(Palette, PanelsAndTheFootFitTheWindow) {
   for (const PanelPlace& p : palette_panels()) {
     EXPECT_LE(p.left + p.width, CMD_WIN.ScaleWidth());
@@ -164,9 +173,25 @@ TEST_F(Palette, TheHelpWindowTellsEveryTool) {
   for (const char* key : {"PageUp", "Space", "スペース", "マウス", "Mouse"}) {
     EXPECT_NE(page.find(key), std::string::npos) << key;
   }
+  EXPECT_TRUE(HELP_WIN.escape_closes);
   HELP_WIN.inside(400, 300);
   EXPECT_EQ(HELP_WIN.Text1.Width(), 400);
   EXPECT_EQ(HELP_WIN.Text1.Height(), 300);
+}
+
+// On a screen of 1280 x 1024 pixels.
+TEST_F(Palette, HelpOpensBesideThePalettes) {
+  for (const int left : {0, 400, 528, 700, 1100}) {
+    COL_WIN.Left(left * TWIPS);
+    CMD_WIN.Left((left + 20) * TWIPS);
+    click(CMD_WIN.OPT_W_B(1));
+    const double right = CMD_WIN.Left() + CMD_WIN.Width();
+    EXPECT_TRUE(HELP_WIN.Left() >= right || HELP_WIN.Left() + HELP_WIN.Width() <= COL_WIN.Left()) << left;
+    EXPECT_GE(HELP_WIN.Left(), 0);
+    EXPECT_LE(HELP_WIN.Left() + HELP_WIN.Width(), screen_width()) << left;
+    EXPECT_GE(HELP_WIN.Width(), 500 * TWIPS) << left;
+    HELP_WIN.Unload();
+  }
 }
 
 }  // namespace

@@ -1,3 +1,7 @@
+#include <QComboBox>
+#include <QLineEdit>
+#include <QWindow>
+
 #include "platform/qt/keys.h"
 
 #include "qt/display.h"
@@ -185,6 +189,72 @@ TEST_F(KeysOnDisplay, PaletteWithATextFieldGivesItTheKeyboardOnlyWhenItIsAskedTo
   settle();
   type(Qt::Key_C, "c");
   EXPECT_EQ(taken(), (Said{"key 67 0", "character 99"}));
+}
+
+struct TypedNames : KeysOnDisplay {
+  TypedNames() {
+    logic([] {
+      NAMES.Show(&P);
+      TOOL.Show(&P);
+      for (const char* name : {"A", "B", "C"}) NAMES.Combo1.AddItem(name);
+      NAMES.Combo1.ListIndex(0);
+    });
+    settle();
+    qt::widget_of(NAMES)->activateWindow();
+    widget(NAMES.Combo1)->setFocus(Qt::MouseFocusReason);
+    settle();
+    taken();
+  }
+  static bool picture_has_keyboard() {
+    settle();
+    return widget(P.DRAW)->hasFocus() && qt::widget_of(NAMES)->focusWidget() != widget(NAMES.Combo1);
+  }
+  // As the display brings it, to the window.
+  static void press_in(const Window& window, QPointF at) {
+    QMouseEvent event(QEvent::MouseButtonPress, at, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(qt::widget_of(window)->windowHandle(), &event);
+  }
+};
+
+TEST_F(TypedNames, AChoiceGivesTheKeyboardBackToThePicture) {
+  EXPECT_FALSE(picture_has_keyboard());
+  emit as<QComboBox>(NAMES.Combo1)->activated(1);
+  EXPECT_TRUE(picture_has_keyboard());
+  EXPECT_EQ(NAMES.Combo1.ListIndex(), 1);
+}
+
+TEST_F(TypedNames, EnterGivesTheKeyboardBackToThePicture) {
+  NAMES.Combo1.KeyPress = [](int c) { say("KeyPress " + std::to_string(c)); };
+  as<QComboBox>(NAMES.Combo1)->lineEdit()->selectAll();
+  key(QEvent::KeyPress, widget(NAMES.Combo1), Qt::Key_C, "C");
+  EXPECT_FALSE(picture_has_keyboard());
+  key(QEvent::KeyPress, widget(NAMES.Combo1), Qt::Key_Return, "\r");
+  EXPECT_TRUE(picture_has_keyboard());
+  EXPECT_EQ(taken(), (Said{"KeyPress 67", "KeyPress 13"}));
+  EXPECT_EQ(NAMES.Combo1.ListIndex(), 0) << "the name of another item is no choice of that item";
+}
+
+TEST_F(TypedNames, ArrowsGoThroughTheListAndKeepTheKeyboard) {
+  for (int i = 0; i < 3; ++i) key(QEvent::KeyPress, widget(NAMES.Combo1), Qt::Key_Down);
+  EXPECT_EQ(NAMES.Combo1.Text(), "C");
+  key(QEvent::KeyPress, widget(NAMES.Combo1), Qt::Key_Up);
+  EXPECT_EQ(NAMES.Combo1.Text(), "B");
+  EXPECT_FALSE(picture_has_keyboard());
+}
+
+TEST_F(TypedNames, APressOnAnotherPaletteGivesTheKeyboardBackToThePicture) {
+  press_in(TOOL, {4, 4});
+  EXPECT_TRUE(picture_has_keyboard());
+}
+
+TEST_F(TypedNames, APressBesideTheFieldGivesTheKeyboardBackToThePicture) {
+  press_in(NAMES, {50, 50});
+  EXPECT_TRUE(picture_has_keyboard());
+}
+
+TEST_F(TypedNames, APressOnTheFieldKeepsTheKeyboard) {
+  press_in(NAMES, {20, 10});
+  EXPECT_FALSE(picture_has_keyboard());
 }
 
 }  // namespace

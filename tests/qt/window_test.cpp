@@ -143,6 +143,17 @@ TEST_F(Windows, EnterAndEscapePressTheButtonsThatStandForThem) {
   EXPECT_EQ(taken(), Said{}) << "of one that is off, nothing";
 }
 
+TEST_F(Windows, EscapeClosesAWindowThatSaysSo) {
+  QWidget* w = shown(DIALOG);
+  logic([] {
+    DIALOG.escape_closes = true;
+    DIALOG.Cancel.Visible(false);
+  });
+  key(QEvent::KeyPress, w, Qt::Key_Escape, "\x1b");
+  EXPECT_FALSE(DIALOG.Loaded());
+  DIALOG.escape_closes = false;
+}
+
 TEST_F(Windows, UncoveringAsksForThePicturesThatAreNotKept) {
   QWidget* w = shown(P);
   QExposeEvent expose(QRegion(0, 0, 10, 10));

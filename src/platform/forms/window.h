@@ -166,6 +166,7 @@ class Window {
   const char* const name;
   const Border border;
   const Scale scale;
+  bool escape_closes = false;  // for the design
 
   bool Loaded() const { return loaded_; }  // asking does not load
   // Runs the design, makes the peers and fires Form_Load; nothing if it is loaded. Error 364 if it unloads itself

@@ -1,9 +1,11 @@
 #include "platform/qt/boxes.h"
 
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include "platform/qt/look.h"
+#include "platform/qt/peer.h"
 
 namespace qt {
 
@@ -54,7 +56,9 @@ QMessageBox::Icon icon_of(int style) {
 }  // namespace
 
 int message_box(const std::string& text, int style, const std::string& title) {
-  QMessageBox box;
+  // A window that goes while the box is up takes the box with it.
+  const QPointer<QMessageBox> box_there = new QMessageBox(box_owner());
+  QMessageBox& box = *box_there;
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(to_qt(title));
   box.setText(to_qt(text));
@@ -72,8 +76,11 @@ int message_box(const std::string& text, int style, const std::string& title) {
     }
   }
   box.exec();
+  if (!box_there) return row.escape;
   const QAbstractButton* clicked = box.clickedButton();
-  return clicked ? clicked->property("answer").toInt() : row.escape;
+  const int answer = clicked ? clicked->property("answer").toInt() : row.escape;
+  delete box_there;  // NOLINT(cppcoreguidelines-owning-memory)
+  return answer;
 }
 
 }  // namespace qt

@@ -1,6 +1,7 @@
 #include "platform/qt/desktop.h"
 
 #include <QFontMetrics>
+#include <QPixmap>
 #include <QScreen>
 #include <QTimer>
 
@@ -94,8 +95,11 @@ int QtDesktop::run(void (*start)(const std::string& command_line), const std::st
   return QCoreApplication::exec();
 }
 
-int run_desktop(int argc, char** argv, void (*start)(const std::string& command_line)) {
+int run_desktop(int argc, char** argv, const char* icon, void (*start)(const std::string& command_line)) {
   QtDesktop desktop(argc, argv);
+  if (const forms::Sheet* sheet = find_sheet(icon)) {
+    QApplication::setWindowIcon(QPixmap::fromImage(picture_of(*sheet)));
+  }
   std::string command_line;
   for (int i = 1; i < argc; ++i) command_line += (i > 1 ? " " : "") + std::string(argv[i]);
   forms::use_desktop(&desktop);

@@ -44,6 +44,7 @@ class QtDesktop : public forms::Desktop {
 };
 
 // The program on the display of the user; what argv holds beyond the program's name is the command line.
-int run_desktop(int argc, char** argv, void (*start)(const std::string& command_line));
+// icon: the sheet with the picture that its windows bear.
+int run_desktop(int argc, char** argv, const char* icon, void (*start)(const std::string& command_line));
 
 }  // namespace qt

@@ -75,6 +75,11 @@ QWidget* widget_of(const forms::Window& window);
 // The control that has the keyboard in that window, or had it last.
 QWidget* keyboard_of(const forms::Window& window);
 void set_keyboard(const forms::Window& window, QWidget* widget);
+// Nothing in that palette is typed into any more: the keyboard is that of its owner's picture. Of other windows nothing
+// happens.
+void give_keyboard_back(const forms::Window& window);
+// The window that a box which opens now belongs to: the one in use, or that palette's owner; null if none is shown.
+QWidget* box_owner();
 
 std::unique_ptr<forms::Peer> make_window_peer(forms::Window& window);
 std::unique_ptr<forms::Peer> make_picture_peer(forms::PictureBox& box);

@@ -1,9 +1,11 @@
 // The controls that are typed into or chosen from: text box, combo box, list.
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <algorithm>
 
 #include "platform/qt/keys.h"
 #include "platform/qt/look.h"
@@ -90,11 +92,11 @@ class ComboPeer final : public ControlPeer {
   QWidget* make(QWidget* parent) override;
   void refresh(uint32_t changes) override;
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::KeyPress) announce_key(box_, *static_cast<QKeyEvent*>(event));
-    return false;
+    return event->type() == QEvent::KeyPress && pressed(*static_cast<QKeyEvent*>(event));
   }
 
  private:
+  bool pressed(const QKeyEvent& event);
   void choose(int i);
   forms::ComboBox& box_;
 };
@@ -109,8 +111,29 @@ QWidget* ComboPeer::make(QWidget* parent) {
   connect(w->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
     if (reachable()) user_event([&] { box_.Text(from_qt(text)); });
   });
-  connect(w, &QComboBox::activated, this, [this](int i) { choose(i); });
+  // A name that is typed whole is no choice of the item of that name.
+  disconnect(w->lineEdit(), &QLineEdit::editingFinished, w, nullptr);
+  connect(w, &QComboBox::activated, this, [this](int i) {
+    choose(i);
+    give_keyboard_back(box_.window);
+  });
   return w;
+}
+
+// Arrows go through the list and keep the keyboard; Enter ends the typing.
+bool ComboPeer::pressed(const QKeyEvent& event) {
+  const bool alone = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const int step = event.key() == Qt::Key_Down ? 1 : event.key() == Qt::Key_Up ? -1 : 0;
+  if (alone && step != 0) {
+    const int to = static_cast<QComboBox*>(widget())->currentIndex() + step;
+    if (to >= 0 && to < box_.ListCount()) choose(to);
+    return true;
+  }
+  const QPointer<QObject> alive(this);
+  announce_key(box_, event);
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (alive && enter) give_keyboard_back(box_.window);
+  return !alive || enter;
 }
 
 // A choice counts even if it is the same as before, since other text may have been typed meanwhile.
@@ -127,6 +150,8 @@ void ComboPeer::refresh(uint32_t changes) {
   if (changes & forms::LIST) {
     w->clear();
     for (int i = 0; i < box_.ListCount(); ++i) w->addItem(to_qt(box_.List(i)));
+    constexpr int MARGIN = 24, MOST = 400;  // pixels: the open list may be wider than the box
+    w->view()->setMinimumWidth(std::min(w->view()->sizeHintForColumn(0) + MARGIN, MOST));
   }
   if (changes & (forms::LIST | forms::VALUE)) w->setCurrentIndex(box_.ListIndex());
   if (changes & (forms::LIST | forms::VALUE | forms::TEXT)) {

@@ -14,6 +14,7 @@
 #include "platform/qt/keys.h"
 #include "platform/qt/look.h"
 #include "platform/qt/peer.h"
+#include "platform/qt/x11.h"
 
 namespace qt {
 
@@ -102,6 +103,7 @@ class WindowPeer final : public QObject, public forms::Peer {
   void exposed();
   void uncovered();
   void key_pressed(QKeyEvent* event);
+  void pressed(const QPoint& at);
   QWindow* handle() const { return widget->windowHandle(); }
 
   Window& window_;
@@ -131,6 +133,8 @@ void WindowPeer::realize() {
   place();
   widget->setWindowTitle(to_qt(window_.Caption()));
   widget->winId();
+  // Qt looks at this one when it changes alone, so not before there is a window.
+  if (is_tool(window_) && palettes_are_toolbars()) widget->setAttribute(Qt::WA_X11NetWmWindowTypeToolBar);
   handle()->installEventFilter(this);
   realize_inside(window_, nullptr);
   if (!keyboard) {
@@ -285,11 +289,23 @@ void WindowPeer::key_pressed(QKeyEvent* event) {
       if (enter ? button->is_default : button->is_cancel) return user_event([&] { button->Click.fire(button->index); });
     }
   }
+  if (escape && window_.escape_closes && event->type() == QEvent::KeyPress) {
+    return user_event([this] { window_.Unload(); });
+  }
   const QWidget* typed_into = widget->focusWidget();
   if (typed_into && typed_into->testAttribute(Qt::WA_InputMethodEnabled)) return;
   const Window* to = is_tool(window_) ? window_.owner() : &window_;
   QWidget* target = to && forms::reachable(*to) ? keyboard_of(*to) : nullptr;
   if (target) QCoreApplication::sendEvent(target, event);
+}
+
+// A press anywhere on a palette but on what is typed into: the tool, pane or number that it chooses is for the picture.
+void WindowPeer::pressed(const QPoint& at) {
+  if (!is_tool(window_) || !forms::reachable(window_)) return;
+  for (const QWidget* w = widget->childAt(at); w && w != widget; w = w->parentWidget()) {
+    if (w->focusPolicy() & Qt::ClickFocus) return;
+  }
+  give_keyboard_back(window_);
 }
 
 bool is_input(const QEvent* event) {
@@ -316,6 +332,7 @@ bool WindowPeer::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose && handle()->isExposed()) {
       QMetaObject::invokeMethod(this, &WindowPeer::exposed, Qt::QueuedConnection);
     }
+    if (event->type() == QEvent::MouseButtonPress) pressed(static_cast<QMouseEvent*>(event)->position().toPoint());
     return !window_.is_enabled() && is_input(event);
   }
   switch (event->type()) {
@@ -348,6 +365,27 @@ QWidget* widget_of(const Window& window) {
 QWidget* keyboard_of(const Window& window) {
   const WindowPeer* peer = peer_of(window);
   return peer ? peer->keyboard : nullptr;
+}
+
+void give_keyboard_back(const Window& window) {
+  if (!is_tool(window)) return;
+  if (QWidget* palette = widget_of(window)) palette->setFocus();
+  QWidget* owner = window.owner() && forms::reachable(*window.owner()) ? widget_of(*window.owner()) : nullptr;
+  if (!owner) return;
+  if (QWidget* picture = keyboard_of(*window.owner())) picture->setFocus();
+  if (!owner->isActiveWindow()) owner->activateWindow();
+}
+
+QWidget* box_owner() {
+  const std::vector<Window*>& all = forms::all_windows();
+  const auto active = std::ranges::find_if(all, [](const Window* w) {
+    const QWidget* shown = widget_of(*w);
+    return shown && shown->isActiveWindow();
+  });
+  const Window* window = active != all.end() ? *active : Window::foremost();
+  if (window && is_tool(*window)) window = window->owner();
+  QWidget* shown = window ? widget_of(*window) : nullptr;
+  return shown && shown->isVisible() ? shown : nullptr;
 }
 
 void set_keyboard(const Window& window, QWidget* widget) {

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QThread>
 #include <optional>
+#include <string>
 
 // Last, since it makes macros of common words.
 #include <X11/XKBlib.h>
@@ -44,6 +45,30 @@ void request_frame_extents(Display* display, Window window) {
   XSendEvent(display, DefaultRootWindow(display), False, SubstructureRedirectMask | SubstructureNotifyMask, &event);
 }
 
+// The window manager's own name, "" if it tells none.
+std::string window_manager(Display* display) {
+  const auto property = [display](Window window, const char* name, Atom wanted, auto take) {
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long rest = 0;
+    unsigned char* bytes = nullptr;
+    XGetWindowProperty(display, window, XInternAtom(display, name, False), 0, 64, False, wanted, &type, &format, &count,
+                       &rest, &bytes);
+    if (bytes && type == wanted) take(bytes, count);
+    if (bytes) XFree(bytes);
+  };
+  Window manager = 0;
+  property(DefaultRootWindow(display), "_NET_SUPPORTING_WM_CHECK", XA_WINDOW,
+           [&](const unsigned char* bytes, unsigned long) { manager = *reinterpret_cast<const Window*>(bytes); });
+  std::string name;
+  if (manager) {
+    property(manager, "_NET_WM_NAME", XInternAtom(display, "UTF8_STRING", False),
+             [&](const unsigned char* bytes, unsigned long count) { name.assign(bytes, bytes + count); });
+  }
+  return name;
+}
+
 bool has_window_manager(Display* display) {
   const Atom property = XInternAtom(display, "_NET_SUPPORTING_WM_CHECK", False);
   int count = 0;
@@ -57,6 +82,11 @@ bool has_window_manager(Display* display) {
 
 void let_held_keys_repeat() {
   if (Display* display = x11_display()) XkbSetDetectableAutoRepeat(display, True, nullptr);
+}
+
+bool palettes_are_toolbars() {
+  Display* display = x11_display();
+  return display && window_manager(display) == "Openbox";
 }
 
 QSize coming_frame() {
