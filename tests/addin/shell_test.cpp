@@ -63,19 +63,27 @@ TEST_F(ShellLine, NothingInItIsACommand) {
   }
 }
 
-TEST_F(ShellLine, TriesLongerAndLongerBeginningsAsTheProgram) {
+TEST_F(ShellLine, TakesTheLongestBeginningThatIsAProgram) {
   std::filesystem::create_directory(APP_PATH + "/a b");
   const std::string blanks = program("a b/my  program", "printf '<%s>' \"$@\" > \"$(dirname \"$0\")/../args\"");
+  program("a", "printf beside > \"$(dirname \"$0\")/args\"");
+  program("a b/my", "printf shorter > \"$(dirname \"$0\")/../args\"");
   EXPECT_TRUE(run(blanks + " x y"));
   EXPECT_EQ(get("args"), "<x><y>");
   // A folder and a file that may not be executed are no programs.
-  put("a b/my", "not a program");
-  std::filesystem::create_directory(APP_PATH + "/a");
-  EXPECT_TRUE(run(blanks + " z"));
-  EXPECT_EQ(get("args"), "<z>");
-  program("a b/my", "printf shorter > \"$(dirname \"$0\")/../args\"");
-  EXPECT_TRUE(run(blanks + " z"));
+  put("a b/my  program z", "not a program");
+  std::filesystem::create_directory(blanks + " z y");
+  EXPECT_TRUE(run(blanks + " z y"));
+  EXPECT_EQ(get("args"), "<z><y>");
+  // Nor is a beginning that ends within a word.
+  EXPECT_TRUE(run(APP_PATH + "/a b/my programs"));
   EXPECT_EQ(get("args"), "shorter");
+}
+
+TEST_F(ShellLine, FindsItsProgramHoweverLongTheRest) {
+  EXPECT_EQ(args_of(" " + std::string(5000, ' ')).size(), 2U * 5001);
+  EXPECT_EQ(args_of(" " + std::string(100000, 'x')).size(), 100002U);
+  EXPECT_EQ(error_of([] { forms::Shell(std::string(100000, ' ') + "x"); }), 53);
 }
 
 TEST_F(ShellLine, FindsANameWithoutASlashInPathAlone) {

@@ -6,7 +6,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cerrno>
+#include <algorithm>
+#include <climits>
 #include <cstdlib>
 #include <string_view>
 #include <vector>
@@ -41,14 +42,15 @@ std::string find_program(const std::string& name) {
   return "";
 }
 
-// Where the shortest beginning of the line that names a program ends, and that program's file.
+// Where the longest beginning of the line that names a program ends, and that program's file: a file `My` beside a
+// folder `My Kiso` is not run in place of what stands in there.
 size_t program_end(const std::string& line, std::string& file) {
-  for (size_t blank = line.find(' ');; blank = line.find(' ', blank + 1)) {
-    const size_t end = std::min(blank, line.size());
+  size_t end = line.size() <= PATH_MAX ? line.size() : line.rfind(' ', PATH_MAX);
+  for (; end != std::string::npos && end > 0; end = line.rfind(' ', end - 1)) {
     file = find_program(line.substr(0, end));
     if (!file.empty()) return end;
-    if (blank == std::string::npos) throw RuntimeError(53);
   }
+  throw RuntimeError(53);
 }
 
 std::vector<std::string> cut_at_blanks(const std::string& rest) {

@@ -10,8 +10,8 @@ namespace forms {
 // has the line behind its name back, byte for byte - two blanks on end make an empty argument. A line that ends behind
 // the name or with one blank there gives no argument.
 //
-// The name is the first word; if that is no program, the first two, and so on. A name with a slash is a path, any other
-// is looked for in PATH.
+// The name is the longest beginning of the line that a blank or the line's end follows and that names an executable
+// file. A name with a slash is a path, any other is looked for in PATH.
 //
 // The program reads nothing from us, and what it prints goes where our errors go. Error 53 if there is no such program.
 int Shell(const std::string& line);
