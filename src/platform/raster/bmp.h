@@ -22,7 +22,7 @@ struct PictureBytes {
 // A picture of any BMP kind with 1, 2, 4, 8, 16, 24 or 32 bits, as a new surface of that depth (32, 24, 16 or 8). The
 // alpha of 32 bits is ignored; an index beyond the palette is black; pixels that run-length rows skip take palette
 // colour 0, or black if there is no palette. Anything else is error 481, and memory is taken only for a size that the
-// bytes can hold.
+// bytes can hold; one that is too much for check_memory is error 7.
 Surface read_bmp(const PictureBytes& bytes, int depth = 32);
 
 // Writes 24 bits, bottom row first. The file is replaced whole (through a new file beside it that takes over its

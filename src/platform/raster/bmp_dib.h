@@ -51,6 +51,8 @@ struct Dib {
 // said to begin, which may cut the palette short; 0 if nothing says so. Error 481 for what can not be a picture.
 Dib read_dib(const PictureBytes& bytes, uint64_t at, uint64_t pixels_at);
 
+uint64_t pixels_of(const Dib& dib);
+
 // Bytes from the first to the last of rows that are padded to row_bytes; the last one may end at its last pixel.
 uint64_t bytes_of_rows(uint64_t row_bytes, uint64_t last_row_bits, int rows);
 

@@ -29,8 +29,21 @@ bool FileHandle::close() {
   return fd < 0 || ::close(fd) == 0;
 }
 
-// Without O_NONBLOCK a pipe's name would wait for a writer.
-PictureFile::PictureFile(const std::string& path) : handle(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
+namespace {
+
+// Opening a device can do something or wait, so that what is no file is not opened; without O_NONBLOCK a pipe that
+// takes the name after the look would wait for a writer.
+int open_to_read(const std::string& path) {
+  struct stat about {};
+  if (path.find('\0') != std::string::npos) throw RuntimeError(75);  // the system would take it for another name
+  if (stat(path.c_str(), &about) != 0) throw file_error(errno, 53);
+  if (!S_ISREG(about.st_mode)) throw RuntimeError(75);
+  return open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+}
+
+}  // namespace
+
+PictureFile::PictureFile(const std::string& path) : handle(open_to_read(path)) {
   struct stat about {};
   if (handle.get() < 0 || fstat(handle.get(), &about) != 0) throw file_error(errno, 53);
   if (!S_ISREG(about.st_mode)) throw RuntimeError(75);

@@ -5,6 +5,7 @@
 #include "platform/raster/bmp_dib.h"
 #include "platform/raster/bmp_pack.h"
 #include "platform/raster/line_buffer.h"
+#include "platform/raster/memory.h"
 
 namespace raster {
 
@@ -57,6 +58,8 @@ constexpr uint64_t UNDOUBTED_PIXELS = uint64_t{4096} * 4096;
 
 }  // namespace
 
+uint64_t pixels_of(const Dib& dib) { return static_cast<uint64_t>(dib.width) * static_cast<uint64_t>(dib.height); }
+
 uint64_t bytes_of_rows(uint64_t row_bytes, uint64_t last_row_bits, int rows) {
   return row_bytes * static_cast<uint64_t>(rows - 1) + (last_row_bits + 7) / 8;
 }
@@ -64,10 +67,10 @@ uint64_t bytes_of_rows(uint64_t row_bytes, uint64_t last_row_bits, int rows) {
 void check_pixels(const PictureBytes& bytes, uint64_t at, const Dib& dib) {
   if (at > bytes.size) throw RuntimeError(481);
   const uint64_t left = bytes.size - at;
-  const uint64_t width = static_cast<uint64_t>(dib.width), pixels = width * static_cast<uint64_t>(dib.height);
+  const uint64_t width = static_cast<uint64_t>(dib.width);
   const bool enough = dib.packing == Packing::none
                           ? bytes_of_rows(dib.row_bytes(), width * static_cast<uint64_t>(dib.bits), dib.height) <= left
-                          : pixels <= std::max(UNDOUBTED_PIXELS, left * PIXELS_PER_BYTE);
+                          : pixels_of(dib) <= std::max(UNDOUBTED_PIXELS, left * PIXELS_PER_BYTE);
   if (!enough) throw RuntimeError(481);
 }
 
@@ -111,6 +114,7 @@ Surface read_bmp(const PictureBytes& bytes, int depth) {
   const Dib dib = read_dib(bytes, sizeof head, told);
   const uint64_t at = told > 0 ? told : dib.end;
   check_pixels(bytes, at, dib);
+  check_memory(pixels_of(dib) * static_cast<uint64_t>(depth / 8));
   Surface picture = Surface::unpainted(dib.width, dib.height, depth);
   (dib.packing == Packing::none ? read_rows : read_run_lengths)(bytes, at, dib, picture);
   return picture;

@@ -8,6 +8,7 @@
 #include "platform/raster/bmp_dib.h"
 #include "platform/raster/bmp_file.h"
 #include "platform/raster/draw.h"
+#include "platform/raster/memory.h"
 
 namespace raster {
 
@@ -144,6 +145,13 @@ Surface decode_png(const PictureBytes& bytes, const Entry& entry, PngDecoder png
 
 // --- the file
 
+// What is held at once: the surface, for a PNG the decoder's picture and the bytes that it is handed over in, and the
+// surface of another depth.
+uint64_t bytes_needed(const Entry& entry, int depth) {
+  const int bytes = (entry.dib ? 4 : 12) + (depth == 32 ? 0 : depth / 8);
+  return static_cast<uint64_t>(entry.width * entry.height * bytes);
+}
+
 Entry largest_entry(const PictureBytes& bytes, PngDecoder png) {
   uint8_t directory[DIRECTORY_BYTES];
   bytes.read(0, directory, sizeof directory);
@@ -170,6 +178,7 @@ Entry largest_entry(const PictureBytes& bytes, PngDecoder png) {
 
 Surface read_ico(const PictureBytes& bytes, int depth, PngDecoder png) {
   const Entry entry = largest_entry(bytes, png);
+  check_memory(bytes_needed(entry, depth));
   Surface picture = entry.dib ? decode_bitmap(bytes, *entry.dib) : decode_png(bytes, entry, png);
   if (depth != 32) {
     Surface other = Surface::unpainted(picture.width(), picture.height(), depth);
