@@ -1,4 +1,9 @@
 // Files dropped on the main window.
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <filesystem>
+
 #include "stage.h"
 
 namespace {
@@ -55,6 +60,34 @@ TEST(Drop, OfAnUnknownKindIsAskedAboutFirstAndLeavesItsName) {
   EXPECT_EQ(desk().boxes[1].text, "サポート外のファイル形式です。");
   EXPECT_EQ(PIC_FILE, "/p/a.xyz");
   EXPECT_EQ(P_WIN.Caption(), "Kiso :/p/a.xyz");
+}
+
+TEST(Drop, OfWhatIsNoFileIsAFailedLoadAndDoesNotWait) {
+  start();
+  const std::string pipe = home().path + "/pipe.bmp", folder = home().path + "/folder.bmp";
+  const std::string device = home().path + "/device.bmp", cut = picture("a.bmp") + std::string(1, '\0') + ".bmp";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  std::filesystem::create_directory(folder);
+  std::filesystem::create_symlink("/dev/ptmx", device);
+  for (const std::string& name : {pipe, folder, device, cut}) {
+    desk().boxes.clear();
+    desk().answers = {6};
+    drop({name});
+    ASSERT_EQ(desk().boxes.size(), 2U);
+    EXPECT_EQ(desk().boxes[1].text.substr(0, desk().boxes[1].text.find('\r')), "ファイル読み込みエラー ( 75)") << name;
+    EXPECT_NE(desk().boxes[1].text.find("ファイル名 : " + name), std::string::npos);
+  }
+}
+
+TEST(Drop, ThatNeedsMoreThanHalfOfTheFreeMemoryIsAFailedLoad) {
+  start();
+  setenv("KISO_FREE_MEMORY", "47", 1);  // twice 3 x 2 pixels of four bytes, less one
+  desk().answers = {6};
+  drop({picture("a.bmp")});
+  ASSERT_EQ(desk().boxes.size(), 2U);
+  EXPECT_EQ(desk().boxes[1].text.substr(0, desk().boxes[1].text.find('\r')), "ファイル読み込みエラー ( 7)");
+  EXPECT_EQ(PIC_SIZE(1), 640);
+  unsetenv("KISO_FREE_MEMORY");
 }
 
 TEST(Drop, WhileTheQuestionStandsOpenIsGone) {

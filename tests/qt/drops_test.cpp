@@ -57,6 +57,14 @@ TEST_F(Drops, ReadListsAsOtherProgramsWriteThem) {
   EXPECT_EQ(taken(), (Said{"drop /p/a b.bmp", "drop /p/c.bmp", "drop /p/d.bmp"}));
 }
 
+TEST_F(Drops, ANameIsBytes) {
+  QMimeData data;
+  offer(data, "file:///p/bad%FF%C3.bmp\r\nfile:///p/%E7%B5%B5%25%41%23%3F.bmp\r\n");
+  EXPECT_TRUE(drop(data));
+  settle();
+  EXPECT_EQ(taken(), (Said{"drop /p/bad\xff\xc3.bmp", "drop /p/絵%A#?.bmp"}));
+}
+
 TEST_F(Drops, NothingButFilesOfThisMachineIsTaken) {
   for (const char* list :
        {"", "http://example.org/a.bmp\r\n", "file://elsewhere.example/p/a.bmp\r\n", "\xff\xfe rubbish"}) {

@@ -8,12 +8,16 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/look.h"
 #include "platform/qt/peer.h"
 
 namespace qt {
 
 namespace {
+
+// A name is bytes, and need be no text.
+std::string path_of(const QUrl& url) {
+  return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+}
 
 // The files of this machine among what is offered.
 std::vector<std::string> files_in(const QMimeData& offer) {
@@ -22,7 +26,7 @@ std::vector<std::string> files_in(const QMimeData& offer) {
     const QString host = url.host();
     const bool here = host.isEmpty() || host == QLatin1String("localhost") ||
                       host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
-    if (url.isLocalFile() && here) files.push_back(from_qt(url.path(QUrl::FullyDecoded)));
+    if (url.isLocalFile() && here) files.push_back(path_of(url));
   }
   return files;
 }
