@@ -25,6 +25,7 @@ class PlayDesktop : public qt::QtDesktop {
   // The display in memory would tell only after events that no script waits for.
   bool has_focus(const forms::Window& window) override { return Desktop::has_focus(window); }
   // A clipboard of this run alone.
+  bool clipboard_has_picture() override { return Desktop::clipboard_has_picture(); }
   bool read_clipboard(raster::Surface& picture) override { return Desktop::read_clipboard(picture); }
   void write_clipboard(const raster::Surface& picture) override { Desktop::write_clipboard(picture); }
   void clear_clipboard() override { Desktop::clear_clipboard(); }

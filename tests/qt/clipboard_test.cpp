@@ -4,6 +4,8 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QMimeData>
+#include <cstdlib>
+#include <string>
 
 #include "platform/error.h"
 #include "platform/raster/draw.h"
@@ -101,6 +103,74 @@ TEST_F(SharedClipboard, ABrokenKindIsPassedOverForOneThatCanBeRead) {
   data->setData("image/bmp", file_of(red_and_blue(), "BMP"));
   QGuiApplication::clipboard()->setMimeData(data);
   EXPECT_EQ(pixel(1, 0), raster::RGB(1, 2, 254));
+}
+
+// An offer that counts how often its bytes are asked for.
+struct CountedOffer : QMimeData {
+  explicit CountedOffer(const QByteArray& bytes) { setData("image/png", bytes); }
+  QVariant retrieveData(const QString& kind, QMetaType type) const override {
+    ++asked;
+    return QMimeData::retrieveData(kind, type);
+  }
+  static inline int asked = 0;
+};
+
+TEST_F(SharedClipboard, APictureIsDecodedOnceForTheQuestionAndTheTaking) {
+  CountedOffer::asked = 0;
+  QGuiApplication::clipboard()->setMimeData(new CountedOffer(file_of(red_and_blue(), "PNG")));
+  EXPECT_TRUE(Clipboard::GetFormat(2));
+  EXPECT_TRUE(Clipboard::GetFormat(8));
+  EXPECT_EQ(pixel(1, 0), raster::RGB(1, 2, 254));
+  EXPECT_EQ(CountedOffer::asked, 1);
+  EXPECT_EQ(pixel(0, 0), raster::RGB(255, 0, 0)) << "it can be taken again";
+  EXPECT_EQ(CountedOffer::asked, 2);
+}
+
+TEST_F(SharedClipboard, RubbishIsLookedAtOnceToo) {
+  CountedOffer::asked = 0;
+  QGuiApplication::clipboard()->setMimeData(new CountedOffer("rubbish"));
+  EXPECT_FALSE(Clipboard::GetFormat(2) || Clipboard::GetFormat(8));
+  EXPECT_THROW(Clipboard::GetData(), RuntimeError);
+  EXPECT_EQ(CountedOffer::asked, 1);
+}
+
+TEST_F(SharedClipboard, AnAnswerIsForgottenWhenTheClipboardChanges) {
+  offer("image/png", file_of(red_and_blue(), "PNG"));
+  EXPECT_TRUE(Clipboard::GetFormat(2));
+  QImage green(1, 1, QImage::Format_RGB32);
+  green.fill(Qt::green);
+  offer("image/png", file_of(green, "PNG"));
+  EXPECT_EQ(pixel(0, 0), raster::RGB(0, 255, 0));
+  EXPECT_TRUE(Clipboard::GetFormat(2));
+  QGuiApplication::clipboard()->setText("text");
+  EXPECT_FALSE(Clipboard::GetFormat(2));
+  offer("image/png", file_of(green, "PNG"));
+  EXPECT_TRUE(Clipboard::GetFormat(2));
+}
+
+TEST_F(SharedClipboard, WhatNeedsMoreThanHalfOfTheFreeMemoryIsNoPicture) {
+  QImage image(30, 20, QImage::Format_ARGB32);
+  image.fill(Qt::red);
+  for (const char* kind : {"png", "bmp"}) {
+    const unsigned needs = 30 * 20 * (kind == std::string("png") ? 8 : 4);  // Qt's picture and the surface; the surface
+    setenv("KISO_FREE_MEMORY", std::to_string(2 * needs - 1).c_str(), 1);
+    offer(("image/" + std::string(kind)).c_str(), file_of(image, kind));
+    EXPECT_FALSE(Clipboard::GetFormat(2)) << kind;
+    EXPECT_THROW(Clipboard::GetData(), RuntimeError);
+    setenv("KISO_FREE_MEMORY", std::to_string(2 * needs).c_str(), 1);
+    offer(("image/" + std::string(kind)).c_str(), file_of(image, kind));
+    EXPECT_TRUE(Clipboard::GetFormat(2)) << kind;
+  }
+  unsetenv("KISO_FREE_MEMORY");
+}
+
+// How long it would take and what it would read can not be told.
+TEST_F(SharedClipboard, ADrawingIsNoPicture) {
+  const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='4'/>";
+  for (const char* kind : {"image/svg+xml", "image/png"}) {
+    offer(kind, svg);
+    EXPECT_FALSE(Clipboard::GetFormat(2)) << kind;
+  }
 }
 
 TEST_F(SharedClipboard, IsEmptyAfterClear) {

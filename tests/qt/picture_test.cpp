@@ -219,6 +219,22 @@ TEST(Images, PngKeepsEveryPixelOfASurface) {
   EXPECT_FALSE(qt::save_png(raster::Surface(1, 1), "/no such folder/x.png"));
 }
 
+TEST(Images, EveryFormatOfQtBecomesTheSameSurface) {
+  QImage image(40, 37, QImage::Format_ARGB32);
+  for (int y = 0; y < 37; ++y) {
+    for (int x = 0; x < 40; ++x) image.setPixelColor(x, y, (x + y) % 3 == 0 ? Qt::red : Qt::white);
+  }
+  image.setPixel(39, 36, 0);  // lets the white through
+  for (const QImage::Format format :
+       {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied, QImage::Format_RGBA64, QImage::Format_Indexed8}) {
+    const raster::Surface s = qt::surface_of(image.convertToFormat(format));
+    EXPECT_EQ(raster::GetPixel(s, 0, 0), raster::RGB(255, 0, 0)) << format;
+    EXPECT_EQ(raster::GetPixel(s, 38, 34), raster::RGB(255, 0, 0)) << format;
+    EXPECT_EQ(raster::GetPixel(s, 38, 36), raster::WHITE) << format;
+    EXPECT_EQ(raster::GetPixel(s, 39, 36), raster::WHITE) << format;
+  }
+}
+
 TEST(Images, PngIsDecodedWithItsAlpha) {
   QImage image(3, 2, QImage::Format_ARGB32);
   image.fill(qRgba(10, 20, 30, 128));

@@ -19,8 +19,10 @@ raster::Surface copy_of(const raster::Surface& s) {
 
 }  // namespace
 
+bool Desktop::clipboard_has_picture() { return has_pixels(clipboard_); }
+
 bool Desktop::read_clipboard(raster::Surface& picture) {
-  if (!has_pixels(clipboard_)) return false;
+  if (!clipboard_has_picture()) return false;
   picture = copy_of(clipboard_);
   return true;
 }
@@ -31,10 +33,7 @@ void Desktop::clear_clipboard() { clipboard_ = raster::Surface(); }
 
 namespace Clipboard {
 
-bool GetFormat(int format) {
-  raster::Surface unused;
-  return is_bitmap(format) && desktop().read_clipboard(unused);
-}
+bool GetFormat(int format) { return is_bitmap(format) && desktop().clipboard_has_picture(); }
 
 raster::Surface GetData() {
   raster::Surface picture;

@@ -39,7 +39,9 @@ class Desktop {
   virtual void text_size(const std::string& text, const Font& font, int wrap, int& width, int& height);
   // Asks for a file by the platform's dialog; false if the user cancels. Without a display the user does.
   virtual bool file_dialog(FileDialog& dialog);
-  // The clipboard's picture; false if it holds none. Without a display the program has a clipboard of its own.
+  // Whether the clipboard holds a picture, and the picture; false if it holds none. Without a display the program has a
+  // clipboard of its own.
+  virtual bool clipboard_has_picture();
   virtual bool read_clipboard(raster::Surface& picture);
   virtual void write_clipboard(const raster::Surface& picture);
   virtual void clear_clipboard();

@@ -1,6 +1,5 @@
 #include "platform/qt/application.h"
 
-#include <QImageReader>
 #include <QLibraryInfo>
 #include <QProxyStyle>
 #include <QTranslator>
@@ -78,7 +77,6 @@ Application::Application(int& argc, char** argv, bool offscreen) {
   QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
   QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
   QApplication::setQuitOnLastWindowClosed(false);
-  QImageReader::setAllocationLimit(4096);  // megabytes: the largest side squared, four bytes a pixel
   // What Qt itself says, in file dialogs above all, it says in the program's language.
   auto* words = new QTranslator(qApp);  // NOLINT(cppcoreguidelines-owning-memory): the application's child
   if (words->load("qtbase_ja", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

@@ -1,11 +1,14 @@
 // The clipboard that all programs share. What the editor puts there Qt offers to others as PNG, BMP and the other kinds
 // that it writes; at the editor's end it hands it over to a clipboard manager, where one runs.
+#include "platform/qt/clipboard.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QImageReader>
 #include <QMimeData>
 
+#include "platform/error.h"
 #include "platform/qt/desktop.h"
+#include "platform/qt/image_reader.h"
 #include "platform/qt/surface_image.h"
 
 namespace qt {
@@ -25,18 +28,53 @@ QStringList kinds(const QMimeData& offer) {
   return found;
 }
 
+// The first that can be read; one that needs too much memory is none.
+std::optional<raster::Surface> picture_in(const QMimeData& offer) {
+  std::optional<raster::Surface> picture;
+  for (const QString& kind : kinds(offer)) {
+    if (ignore_errors([&] { picture = picture_from_bytes(offer.data(kind)); }) == 0) break;
+  }
+  return picture;
+}
+
+const QMimeData* offered() { return QGuiApplication::clipboard()->mimeData(); }
+
 }  // namespace
 
-bool QtDesktop::read_clipboard(raster::Surface& picture) {
-  const QMimeData* offer = QGuiApplication::clipboard()->mimeData();
+ForeignPicture::ForeignPicture() {
+  QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &scope_, [this] { forget(); });
+}
+
+bool ForeignPicture::is_there(const QMimeData& offer) {
+  if (!looked_) picture_ = picture_in(offer);
+  looked_ = true;
+  return picture_.has_value();
+}
+
+raster::Surface ForeignPicture::take() {
+  raster::Surface picture = std::move(*picture_);
+  forget();
+  return picture;
+}
+
+void ForeignPicture::forget() {
+  looked_ = false;
+  picture_.reset();
+}
+
+bool QtDesktop::clipboard_has_picture() {
+  const QMimeData* offer = offered();
   if (!offer) return false;
-  if (dynamic_cast<const OwnPicture*>(offer)) {
-    return picture_from_image(qvariant_cast<QImage>(offer->imageData()), picture);
-  }
-  for (const QString& kind : kinds(*offer)) {
-    if (picture_from_bytes(offer->data(kind), picture)) return true;
-  }
-  return false;
+  if (dynamic_cast<const OwnPicture*>(offer)) return true;
+  if (!foreign_picture_) foreign_picture_ = std::make_unique<ForeignPicture>();
+  return foreign_picture_->is_there(*offer);
+}
+
+bool QtDesktop::read_clipboard(raster::Surface& picture) {
+  if (!clipboard_has_picture()) return false;
+  const auto* own = dynamic_cast<const OwnPicture*>(offered());
+  picture = own ? surface_of(qvariant_cast<QImage>(own->imageData())) : foreign_picture_->take();
+  return true;
 }
 
 void QtDesktop::write_clipboard(const raster::Surface& picture) {

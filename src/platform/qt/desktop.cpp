@@ -7,6 +7,7 @@
 
 #include "platform/qt/application.h"
 #include "platform/qt/boxes.h"
+#include "platform/qt/clipboard.h"
 #include "platform/qt/file_dialog.h"
 #include "platform/qt/images.h"
 #include "platform/qt/look.h"

@@ -9,6 +9,7 @@
 namespace qt {
 
 struct Application;
+class ForeignPicture;
 
 // One at a time in a process. Whoever wants other answers to boxes, or no timers, derives from it and keeps the rest.
 class QtDesktop : public forms::Desktop {
@@ -32,6 +33,7 @@ class QtDesktop : public forms::Desktop {
   bool has_focus(const forms::Window& window) override;
   void text_size(const std::string& text, const forms::Font& font, int wrap, int& width, int& height) override;
   bool file_dialog(forms::FileDialog& dialog) override;
+  bool clipboard_has_picture() override;
   bool read_clipboard(raster::Surface& picture) override;
   void write_clipboard(const raster::Surface& picture) override;
   void clear_clipboard() override;
@@ -41,6 +43,7 @@ class QtDesktop : public forms::Desktop {
 
  private:
   std::unique_ptr<Application> application_;
+  std::unique_ptr<ForeignPicture> foreign_picture_;  // null until the clipboard has been asked
 };
 
 // The program on the display of the user; what argv holds beyond the program's name is the command line.

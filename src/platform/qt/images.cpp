@@ -1,18 +1,24 @@
 #include "platform/qt/images.h"
 
-#include <QSaveFile>
+#include <QBuffer>
 #include <cstring>
 
 #include "platform/error.h"
+#include "platform/qt/image_reader.h"
 #include "platform/qt/surface_image.h"
 #include "platform/raster/draw.h"
+#include "platform/text/disk.h"
 
 namespace qt {
 
 bool decode_png(const uint8_t* bytes, size_t n, raster::PngPicture& out) {
   if (n > INT32_MAX) return false;
-  const QImage image = QImage::fromData(bytes, static_cast<int>(n), "PNG").convertToFormat(QImage::Format_ARGB32);
-  if (image.isNull()) return false;
+  QBuffer file;
+  file.setData(reinterpret_cast<const char*>(bytes), static_cast<int>(n));
+  QImageReader reader(&file, "PNG");
+  QImage image;
+  if (ignore_errors([&] { image = decode(reader); }) != 0) return false;
+  image.convertTo(QImage::Format_ARGB32);
   out.width = image.width();
   out.height = image.height();
   const size_t row = static_cast<size_t>(image.width()) * 4;  // blue, green, red, alpha in memory
@@ -26,10 +32,9 @@ bool decode_png(const uint8_t* bytes, size_t n, raster::PngPicture& out) {
 bool save_png(const raster::Surface& surface, const std::string& path) {
   raster::Surface copy(surface.width(), surface.height());
   BitBlt(copy, 0, 0, surface.width(), surface.height(), surface, 0, 0);
-  const QImage image(copy.row(0), copy.width(), copy.height(), static_cast<qsizetype>(copy.stride()),
-                     QImage::Format_RGB32);
-  QSaveFile file(QString::fromStdString(path));
-  return file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit();
+  QBuffer bytes;
+  if (!image_over(copy).save(&bytes, "PNG")) return false;
+  return ignore_errors([&] { text::disk::write_whole(path, bytes.data().toStdString()); }) == 0;
 }
 
 raster::Surface load_any_picture(const std::string& path) {
@@ -38,9 +43,7 @@ raster::Surface load_any_picture(const std::string& path) {
   } catch (const RuntimeError& e) {
     if (e.number != 481) throw;
   }
-  raster::Surface picture;
-  if (!picture_from_image(QImage(QString::fromStdString(path)), picture)) throw RuntimeError(481);
-  return picture;
+  return picture_from_bytes(QByteArray::fromStdString(text::disk::read_whole(path)));
 }
 
 }  // namespace qt

@@ -1,4 +1,5 @@
-// Pictures that are not the editor's own format: PNG, and whatever else Qt reads.
+// Pictures that are not the editor's own format: PNG, and whatever else Qt reads. A size is looked at before anything
+// of it is decoded. No windows: the add-ins use this too.
 #pragma once
 
 #include <cstddef>

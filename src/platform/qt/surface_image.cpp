@@ -1,9 +1,7 @@
 #include "platform/qt/surface_image.h"
 
 #include <QPainter>
-
-#include "platform/error.h"
-#include "platform/raster/bmp.h"
+#include <algorithm>
 
 namespace qt {
 
@@ -36,27 +34,18 @@ QImage image_over(const raster::Surface& surface) {
   return image;
 }
 
-bool picture_from_image(const QImage& image, raster::Surface& picture) {
-  if (image.isNull() || image.width() > raster::MAX_SIDE || image.height() > raster::MAX_SIDE) return false;
-  try {
-    picture = raster::Surface(image.width(), image.height());
-  } catch (const RuntimeError&) {
-    return false;
+raster::Surface surface_of(const QImage& image) {
+  constexpr int STRIP_ROWS = 16;  // stays in the cache between the decoding and the copy
+  raster::Surface picture = raster::Surface::unpainted(image.width(), image.height());
+  for (int y = 0; y < image.height(); y += STRIP_ROWS) {
+    const int rows = std::min(STRIP_ROWS, image.height() - y);
+    QImage from(image.constScanLine(y), image.width(), rows, image.bytesPerLine(), image.format());
+    from.setColorTable(image.colorTable());
+    QImage to(picture.row(y), picture.width(), rows, picture.stride(), QImage::Format_RGB32);
+    if (image.hasAlphaChannel()) to.fill(Qt::white);
+    QPainter(&to).drawImage(0, 0, from);
   }
-  QImage shown(picture.row(0), picture.width(), picture.height(), picture.stride(), QImage::Format_RGB32);
-  QPainter(&shown).drawImage(0, 0, image);
-  return true;
-}
-
-// BMP by the editor's own reader: it takes every kind of it.
-bool picture_from_bytes(const QByteArray& bytes, raster::Surface& picture) {
-  try {
-    picture = raster::read_bmp(
-        {.size = static_cast<uint64_t>(bytes.size()), .memory = reinterpret_cast<const uint8_t*>(bytes.constData())});
-    return true;
-  } catch (const RuntimeError&) {
-    return picture_from_image(QImage::fromData(bytes), picture);
-  }
+  return picture;
 }
 
 }  // namespace qt

@@ -10,10 +10,8 @@ namespace qt {
 // The surface's own memory, without a copy: good for as long as the surface keeps its size.
 QImage image_over(const raster::Surface& surface);
 
-// A picture out of a file's bytes, of any kind that Qt reads, on white where it is transparent; 32 bits. False if it
-// can not be read, or its memory can not be had.
-bool picture_from_bytes(const QByteArray& bytes, raster::Surface& picture);
-// The same of a picture that Qt has read.
-bool picture_from_image(const QImage& image, raster::Surface& picture);
+// A picture that Qt has read, on white where it is transparent; 32 bits. Errors: 380 no size of a surface, 7 its memory
+// can not be had.
+raster::Surface surface_of(const QImage& image);
 
 }  // namespace qt
