@@ -121,6 +121,54 @@ for words in '' read 'read back.bmp' 'write back.bmp x.PNG' 'write 101 handed.bm
   [ $status = 2 ] && grep -q '^usage: ' said || fail "a wrong call: $words"
 done
 
+# --- what a name says is no option of Qt's: a picture brings its own plugin
+mkdir -p plug/platforms
+echo rubbish >plug/platforms/libevil.so
+attack='p -platformpluginpath plug -platform evil .png'
+cp from.PNG "$attack"
+rm back.bmp
+kisoimg read back.bmp p -platformpluginpath plug -platform evil .png || fail "a name was taken for options"
+expect_same wanted.bmp back.bmp
+rm "$attack"
+cp wanted.bmp handed.bmp
+kisoimg write -1 handed.bmp p -platformpluginpath plug -platform evil .png
+[ -e "$attack" ] || fail "a name was taken for options in writing"
+
+# --- names are bytes
+bad=$'bad\xff.png' other=$'bad\xef\xbf\xbd.png'
+echo other >"$other"
+cp wanted.bmp handed.bmp
+kisoimg write -1 handed.bmp "$bad"
+[ "$(cat "$other")" = other ] || fail "a name that is no UTF-8 has become another file's"
+kisoimg read back.bmp "$bad"
+expect_same wanted.bmp back.bmp
+expect_refusal "$other" read back.bmp "$other"
+
+# --- nothing is opened but files
+mkfifo pipe.PNG pipe.SVG
+mkdir folder.PNG
+for name in pipe.PNG pipe.SVG folder.PNG /dev/zero /dev/ptmx; do
+  expect_refusal back.bmp read back.bmp "$name"
+done
+
+# --- a size is looked at first: one that needs more than half of the free memory is refused
+declare -A needs=([SVG]=$((32 * 32 * 8)) [GIF]=$((32 * 32 * 8)) [TGA]=$((32 * 32 * 8)) [ICNS]=$((1024 * 1024 * 8)))
+for kind in SVG GIF TGA ICNS; do
+  name=from.$kind
+  [ $kind != ICNS ] || name=p.ICNS
+  KISO_FREE_MEMORY=$((2 * needs[$kind] - 1)) expect_refusal back.bmp read back.bmp $name
+  KISO_FREE_MEMORY=$((2 * needs[$kind])) kisoimg read back.bmp $name || fail "$kind: refused, and half of the memory is enough"
+done
+convert -size 32x32 xc:red MNG:small.MNG
+KISO_FREE_MEMORY=$((16 * 32 * 32 - 1)) expect_refusal back.bmp read back.bmp small.MNG
+kisoimg read back.bmp small.MNG
+echo '<svg xmlns="http://www.w3.org/2000/svg" width="30000" height="30000"/>' >vast.SVG
+KISO_FREE_MEMORY=4000000000 expect_refusal back.bmp read back.bmp vast.SVG
+(
+  ulimit -t 20
+  KISO_FREE_MEMORY=300000000 expect_refusal back.bmp read back.bmp <(:) # a pipe by another name
+)
+
 # --- a target is written whole or not at all: a full disk, a directory that can not be written to
 cp from.PNG target.PNG
 convert -size 300x300 plasma:red-blue BMP3:large.bmp
@@ -130,9 +178,23 @@ cp large.bmp handed.bmp
   ulimit -f 20
   expect_refusal target.PNG write -1 handed.bmp "$work/target.PNG"
 )
+cp from.PNG target.PNG
+convert -size 60x50 plasma:red-blue BMP3:handed.bmp
+(
+  trap '' XFSZ
+  ulimit -f 4  # of about 8 KB: less than what a buffer holds back until the end
+  expect_refusal target.PNG write -1 handed.bmp "$work/target.PNG"
+)
 [ ! -e handed.bmp ] || fail "a full disk, and no sign of it"
 expect_refusal nowhere write -1 large.bmp "$work/no/directory/target.PNG"
 [ "$(ls | grep -c '^target.PNG')" = 1 ] || fail "a part of a file is left: $(ls)"
+
+# --- the rights of the old file stay
+cp from.PNG target.PNG
+chmod 640 target.PNG
+cp wanted.bmp handed.bmp
+kisoimg write -1 handed.bmp target.PNG
+[ "$(stat -c %a target.PNG)" = 640 ] || fail "a target with other rights: $(stat -c %a target.PNG)"
 
 # --- killed between taking the file and writing the target: the target is as it was, and what was handed over is gone
 convert -size 2000x1500 xc: +noise Random BMP3:noise.bmp
