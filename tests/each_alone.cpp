@@ -1,6 +1,6 @@
-// The main of the test programs: each test runs in a process of its own, so that globals start fresh and a crash or a hang
-// is the failure of that test alone. The process is forked before anything of the test or of Qt exists; that is cheaper
-// than a start of the program under sanitizers.
+// The main of the test programs: each test runs in a process of its own, so that globals start fresh and a crash or a
+// hang is the failure of that test alone. The process is forked before anything of the test or of Qt exists; that is
+// cheaper than a start of the program under sanitizers.
 //
 // Prints a line for each test: passed|FAILED SECONDS PROGRAM.SUITE.NAME, and for a failed one what it has said before.
 // --gtest_filter chooses; with --gtest_break_on_failure all runs in this process, for a debugger.

@@ -49,7 +49,7 @@ TEST_F(ParamWindows, EachToolOpensItsWindowAndKeepsIt) {
 }
 
 TEST_F(ParamWindows, NumbersHaveRoomForTheirWidestValueAndNothingOverlaps) {
-  for (const int tool : {23, 21, 32, 36}) PARAM_WIN_SHOW(tool);
+  for (const int tool : {23, 21, 32, 36}) PARAM_WIN_SHOW(right_click(tool));
   for (const Label* value : {&FUZZY_WIN.H_VAL, &FUZZY_WIN.S_VAL, &FUZZY_WIN.V_VAL, &HSET_WIN.H_VAL}) {
     int width = 0;
     int height = 0;
