@@ -39,13 +39,25 @@ until_true() {
   done
 }
 
-# start_display SERVER...: a display by that X server, with a window manager; sets DISPLAY.
+# add_cookie DISPLAY COOKIE: through standard input, as arguments can be seen by all
+add_cookie() {
+  xauth -q source - <<<"add $1 . $2"
+}
+
+# start_display SERVER...: a display by that X server, with a window manager; sets DISPLAY and XAUTHORITY. Its socket stands
+# open to every user of the machine, so it takes nobody without the cookie, which lies in the private $scratch.
 start_display() {
+  local cookie
+  cookie=$(mcookie)
+  export XAUTHORITY=$scratch/cookies
+  (umask 077 && touch "$XAUTHORITY")
+  add_cookie :0 "$cookie"  # the server takes a cookie from whatever line
   exec 3>"$scratch/display"
-  start "$@" -displayfd 3 -nolisten tcp -noreset &>"$scratch/display.log"
+  start "$@" -auth "$XAUTHORITY" -displayfd 3 -nolisten tcp -noreset &>"$scratch/display.log"
   until_true "the virtual display" test -s "$scratch/display"
   exec 3>&-
   export DISPLAY=:$(<"$scratch/display")
+  add_cookie "$DISPLAY" "$cookie"
   unset WAYLAND_DISPLAY
   if [ -z "${XDG_RUNTIME_DIR:-}" ]; then  # where nobody has logged in
     mkdir -m 700 "$scratch/runtime"
@@ -53,4 +65,14 @@ start_display() {
   fi
   start openbox &>"$scratch/openbox.log"
   until_true "the window manager" eval 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'
+}
+
+# start_shared_display: a display whose screen others get from the socket $scratch/screen, with the password $password
+start_shared_display() {
+  password=$(head -c 6 /dev/urandom | base64 | tr +/ -_)  # 48 bits in the eight characters that VNC looks at
+  tigervncpasswd -f <<<"$password" >"$scratch/password"
+  # All clients come from one address, that of the socket: were it locked after wrong passwords, any page that is open in
+  # the browser could lock the owner out.
+  start_display Xtigervnc -geometry 1280x800 -depth 24 -SecurityTypes VncAuth -PasswordFile "$scratch/password" \
+    -UseBlacklist=0 -rfbport -1 -rfbunixpath "$scratch/screen"
 }
