@@ -29,11 +29,6 @@ struct Editor {
     setenv("KISO_HOME", home.c_str(), 1);
     forms::use_desktop(&desk);
     forms::enter([] { START_PROGRAM(""); });
-    forms::enter([] {
-      const int status = STATUS_ON == 1 ? STATUS_H : 0;
-      P_WIN.inside(VIEW_W + static_cast<int>(DRAW.left_px() + 2 + Y_SC.width_px()),
-                   VIEW_H + static_cast<int>(DRAW.top_px() + 2 + X_SC.height_px()) + status);
-    });
   }
   ~Editor() {
     std::error_code failed;
@@ -45,11 +40,18 @@ struct Editor {
   WideDesktop desk;
 };
 
+void give_room(int view_w, int view_h) {
+  const int status = STATUS_ON == 1 ? STATUS_H : 0;
+  P_WIN.inside(view_w + static_cast<int>(DRAW.left_px() + 2 + Y_SC.width_px()),
+               view_h + static_cast<int>(DRAW.top_px() + 2 + X_SC.height_px()) + status);
+}
+
 }  // namespace
 
-void show(const Surface& picture, int rate) {
+void show(const Surface& picture, int rate, int view_w, int view_h) {
   static const Editor editor;
   forms::enter([&] {
+    give_room(view_w, view_h);
     PIC.Move(0, 0, picture.width(), picture.height());
     BitBlt(PIC, 0, 0, picture.width(), picture.height(), picture, 0, 0);
     PIC_SIZE(1) = to_int16(PIC.ScaleWidth());

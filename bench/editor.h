@@ -1,5 +1,5 @@
 // The editor without a display, for the rows that go through its event procedures: a view of 1920 x 1080 pixels on a
-// picture of 4096 x 4096.
+// picture of 4096 x 4096, if none else is told.
 #pragma once
 
 #include "frame/p_win.h"
@@ -9,7 +9,7 @@
 namespace bench {
 
 // Started at the first call. The picture, and the view at that rate with its top left at the picture's.
-void show(const kiso::Surface& picture, int rate);
+void show(const kiso::Surface& picture, int rate, int view_w = VIEW_W, int view_h = VIEW_H);
 void select_tool(int number, int pen_size);
 
 inline void press(float x, float y) {

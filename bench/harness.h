@@ -31,6 +31,7 @@ void add_file_rows(Rows& rows);
 void add_colour_rows(Rows& rows);
 void add_commit_rows(Rows& rows);
 void add_tool_rows(Rows& rows);
+void add_engine_rows(Rows& rows);
 void add_qt_rows(Rows& rows);
 void add_opencv_rows(Rows& rows);
 void add_pixman_rows(Rows& rows);

@@ -44,6 +44,50 @@ double flood_empty() {
   return flood(pictures().target);
 }
 
+// A picture to be changed, copied before the clock starts.
+cv::Mat fresh_picture() {
+  cv::Mat target = over(pictures().target);
+  over(pictures().picture).copyTo(target);
+  return target;
+}
+const cv::Scalar KEY(0x30, 0x40, 0xE0, 0xFF), TARGET(0xC0, 0x50, 0x20, 0xFF);  // picgen's, as blue, green, red
+
+double replace() {
+  cv::Mat pixels = fresh_picture(), mask;
+  return timed([&] {
+    cv::inRange(pixels, KEY, KEY, mask);
+    pixels.setTo(TARGET, mask);
+  });
+}
+
+// Hues are halves of a degree here.
+double fuzzy() {
+  cv::Mat pixels = fresh_picture(), bgr, hsv, mask, beyond_red;
+  return timed([&] {
+    cv::cvtColor(pixels, bgr, cv::COLOR_BGRA2BGR);
+    cv::cvtColor(bgr, hsv, cv::COLOR_BGR2HSV);
+    cv::inRange(hsv, cv::Scalar(0, 160, 184), cv::Scalar(12, 240, 255), mask);
+    cv::inRange(hsv, cv::Scalar(173, 160, 184), cv::Scalar(180, 240, 255), beyond_red);
+    pixels.setTo(TARGET, mask | beyond_red);
+  });
+}
+
+double vscale() {
+  cv::Mat pixels = fresh_picture(), bgr, hsv;
+  cv::Mat percent(1, 256, CV_8UC3);
+  for (int i = 0; i < 256; ++i) {
+    const auto same = static_cast<uint8_t>(i);
+    percent.at<cv::Vec3b>(i) = {same, same, static_cast<uint8_t>(i * 60 / 100)};
+  }
+  return timed([&] {
+    cv::cvtColor(pixels, bgr, cv::COLOR_BGRA2BGR);
+    cv::cvtColor(bgr, hsv, cv::COLOR_BGR2HSV);
+    cv::LUT(hsv, percent, hsv);
+    cv::cvtColor(hsv, bgr, cv::COLOR_HSV2BGR);
+    cv::cvtColor(bgr, pixels, cv::COLOR_BGR2BGRA);
+  });
+}
+
 // The picture in memory has 32 bits a pixel, as the editor's.
 double bmp_save() {
   return timed([] { cv::imwrite(saved_file("OpenCV"), three_channels(pictures().picture)); });
@@ -63,6 +107,9 @@ void add_opencv_rows(Rows& rows) {
   rows.push_back({"blit OpenCV", "", blit});
   rows.push_back({"flood_maze OpenCV", "", flood_maze});
   rows.push_back({"flood_empty OpenCV", "", flood_empty});
+  rows.push_back({"replace OpenCV", "", replace});
+  rows.push_back({"fuzzy OpenCV", "", fuzzy});
+  rows.push_back({"vscale OpenCV", "", vscale});
   rows.push_back({"bmp_save OpenCV", "", bmp_save});
   rows.push_back({"bmp_load OpenCV", "", bmp_load});
 }

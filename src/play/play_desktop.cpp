@@ -1,6 +1,7 @@
 #include "play/play_desktop.h"
 
 #include "platform/forms/dialogs.h"
+#include "platform/text/text.h"
 #include "play/player.h"
 
 namespace play {
@@ -117,5 +118,8 @@ void PlayDesktop::pointer_button(bool down) {
 }
 
 void PlayDesktop::record(const char* kind, const std::string& entry) { player.logs[kind].push_back(entry); }
+void PlayDesktop::record_progress(double done, double total) {
+  record("progress", "progress " + text::CStr(done) + " " + text::CStr(total));
+}
 
 }  // namespace play

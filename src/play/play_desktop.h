@@ -22,6 +22,7 @@ class PlayDesktop : public qt::QtDesktop {
   void pointer_move(int dx, int dy) override;
   void pointer_button(bool down) override;
   void record(const char* kind, const std::string& entry) override;
+  void record_progress(double done, double total) override;
   // The display in memory would tell only after events that no script waits for.
   bool has_focus(const forms::Window& window) override { return Desktop::has_focus(window); }
   // A clipboard of this run alone.

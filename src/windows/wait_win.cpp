@@ -1,14 +1,19 @@
 #include "windows/wait_win.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include "colour/col_win.h"
 #include "frame/p_win.h"
 #include "palette/cmd_win.h"
-#include "platform/text/text.h"
 #include "windows/windows.h"
 
 namespace kiso {
+
+namespace {
+constinit int bar_filled = -1;  // columns of pixels; -1: the bar has not been painted yet
+constinit std::chrono::steady_clock::time_point bar_shown{};
+}  // namespace
 
 namespace wait_win {
 namespace {
@@ -27,6 +32,7 @@ void enable_others(bool enabled) {
 }
 
 void Form_Load() {
+  bar_filled = -1;
   WAIT_WIN.Caption(APP_TITLE + "実行中");
   WAIT_WIN.Move((screen_width() - WAIT_WIN.Width()) / 2, (screen_height() - WAIT_WIN.Height()) / 2);
   WAIT_WIN.Refresh();
@@ -52,25 +58,26 @@ void WAIT_SHOW(const std::string& caption) {
   WAIT_WIN.Refresh();
 }
 
-namespace {
-constinit std::chrono::steady_clock::time_point last_shown{};
-}
-
+// It is called for each column of a picture: a call that moves the bar by no pixel costs next to nothing, one that does
+// paints what is new, and what is new reaches the screen no more often than that can show.
 void WAIT_PROGRESS(double done, double total) {
-  desktop().record("progress", "progress " + text::CStr(done) + " " + text::CStr(total));
+  desktop().record_progress(done, total);
+  if (done != 0 && total == 0) throw RuntimeError(11);
   PictureBox& bar = WAIT_WIN.BAR;
+  const double width = bar.ScaleWidth();
+  const int end = done == 0 ? 0 : to_int32(width * (done / total)) + 1;  // that column is filled, too
+  if (done == 0 ? bar_filled == 0 : end <= bar_filled) return;
   if (done == 0) {
-    forms::Line(bar, 0, 0, bar.ScaleWidth(), bar.ScaleHeight(), 0x8000000F, LineForm::box_fill);
+    forms::Line(bar, 0, 0, width, bar.ScaleHeight(), 0x8000000F, LineForm::box_fill);
   } else {
-    if (total == 0) throw RuntimeError(11);
-    forms::Line(bar, 0, 0, bar.ScaleWidth() * (done / total), bar.ScaleHeight(), QBColor(11), LineForm::box_fill);
+    forms::Line(bar, std::max(bar_filled, 0), 0, end - 1, bar.ScaleHeight(), QBColor(11), LineForm::box_fill);
   }
-  // A call for every column of a picture would spend more time on the screen than on the picture.
+  bar_filled = end;
   constexpr auto FRAME_TIME = std::chrono::milliseconds(16);
   const auto now = std::chrono::steady_clock::now();
-  if (done != 0 && done < total && now - last_shown < FRAME_TIME) return;
-  last_shown = now;
-  WAIT_WIN.Refresh();
+  if (done != 0 && done < total && now - bar_shown < FRAME_TIME) return;
+  bar_shown = now;
+  bar.Refresh();
 }
 
 }  // namespace kiso

@@ -153,32 +153,56 @@ TEST_F(Progress, TheOtherWindowsTakeNoEventsMeanwhile) {
   EXPECT_TRUE(COL_WIN.Enabled());
 }
 
-// A peer that counts how often the window is brought to the screen.
+TEST_F(Progress, WithinAPixelItStaysAsItIs) {
+  const double W = WAIT_WIN.BAR.ScaleWidth();
+  WAIT_PROGRESS(0, 1);
+  WAIT_PROGRESS(W / 2, W);
+  WAIT_PROGRESS(W / 2 + 0.25, W);
+  EXPECT_EQ(filled(), W / 2 + 1);
+  WAIT_PROGRESS(1, W);  // what is filled stays filled
+  EXPECT_EQ(filled(), W / 2 + 1);
+}
+
+TEST_F(Progress, StartsAnewWithTheWindow) {
+  WAIT_PROGRESS(0, 2);
+  WAIT_PROGRESS(2, 2);
+  WAIT_WIN.Unload();
+  WAIT_SHOW("次の処理");
+  WAIT_PROGRESS(1, 2);
+  EXPECT_NEAR(filled(), WAIT_WIN.BAR.ScaleWidth() / 2, 1);
+}
+
+// A peer that counts how often the bar is brought to the screen; nothing else is, once the window shows.
 struct CountingDesktop : QuietDesktop {
-  int painted = 0;
+  int bar = 0, window = 0, calls = 0;
   struct CountingPeer : Peer {
     int& painted;
     explicit CountingPeer(int& n) : painted(n) {}
     void update(uint32_t /*changes*/) override {}
     void paint_now() override { ++painted; }
   };
-  std::unique_ptr<Peer> show(Window& window) override {
-    if (&window != &WAIT_WIN) return nullptr;
-    return std::make_unique<CountingPeer>(painted);
+  std::unique_ptr<Peer> show(Window& w) override {
+    return &w == &WAIT_WIN ? std::make_unique<CountingPeer>(window) : nullptr;
   }
+  std::unique_ptr<Peer> show(Control& control) override {
+    return &control == &WAIT_WIN.BAR ? std::make_unique<CountingPeer>(bar) : nullptr;
+  }
+  void record_progress(double /*done*/, double /*total*/) override { ++calls; }
 };
 
 TEST_F(ColourTest, ManyStepsReachTheScreenNoMoreOftenThanItCanShow) {
   CountingDesktop counting;
   use_desktop(&counting);
-  WAIT_WIN.Show(&P_WIN);
-  counting.painted = 0;
+  WAIT_SHOW("処理中");
+  counting.window = counting.bar = 0;
   constexpr int STEPS = 2000;
   const auto begin = std::chrono::steady_clock::now();
   for (int i = 0; i <= STEPS; ++i) WAIT_PROGRESS(i, STEPS);
   const auto took = std::chrono::steady_clock::now() - begin;
-  EXPECT_GE(counting.painted, 2);  // the first and the last
-  EXPECT_LE(counting.painted, 2 + took / std::chrono::milliseconds(16));
+  EXPECT_GE(counting.bar, 1);  // the empty one
+  EXPECT_LE(counting.bar, 2 + took / std::chrono::milliseconds(16));
+  EXPECT_EQ(counting.window, 0);
+  EXPECT_EQ(counting.calls, STEPS + 1);  // who keeps a record hears of all of them
   WAIT_WIN.Unload();
   use_desktop(&screen);
 }

@@ -2,6 +2,7 @@
 #include <fstream>
 
 #include "persist/persist.h"
+#include "platform/text/text.h"
 #include "stage.h"
 #include "windows/wait_win.h"
 
@@ -102,6 +103,9 @@ TEST(AutoSave, ChangesNothingElse) {
 struct Recorder : StageDesktop {
   void record(const char* kind, const std::string& entry) override {
     if (kind == std::string("progress")) seen.push_back(entry + (WAIT_WIN.is_visible() ? "" : " unseen"));
+  }
+  void record_progress(double done, double total) override {
+    record("progress", "progress " + text::CStr(done) + " " + text::CStr(total));
   }
   std::vector<std::string> seen;
 };

@@ -34,6 +34,7 @@ class Desktop {
   virtual bool has_focus(const Window& window);  // without a display: the window that came forward last
   // What a script that drives the program may ask for later: texts of the start window, calls of the progress bar.
   virtual void record(const char* /*kind*/, const std::string& /*entry*/) {}
+  virtual void record_progress(double /*done*/, double /*total*/) {}  // called for each column of a picture
   // Size of a text in pixels in that font, its lines broken where they get wider than wrap; 0: nowhere. Without a
   // display: half the font's height a byte.
   virtual void text_size(const std::string& text, const Font& font, int wrap, int& width, int& height);
