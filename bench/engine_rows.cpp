@@ -7,9 +7,9 @@
 #include "engines/exchange.h"
 #include "engines/fuzzy.h"
 #include "engines/value.h"
+#include "harness.h"
 #include "windows/wait_win.h"
 #include "windows/windows.h"
-#include "harness.h"
 
 namespace bench {
 

@@ -1,9 +1,9 @@
 #include "engines/exchange.h"
 
 #include "engines/depth.h"
-#include "windows/windows.h"
 #include "platform/raster/fast.h"
 #include "platform/raster/pixel.h"
+#include "windows/windows.h"
 
 namespace kiso {
 

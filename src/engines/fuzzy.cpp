@@ -3,12 +3,12 @@
 #include <array>
 #include <bit>
 
+#include "colour/colour.h"
 #include "engines/area.h"
 #include "engines/depth.h"
-#include "colour/colour.h"
-#include "windows/windows.h"
 #include "platform/raster/fast.h"
 #include "platform/raster/pixel.h"
+#include "windows/windows.h"
 
 namespace kiso {
 

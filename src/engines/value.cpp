@@ -1,10 +1,10 @@
 #include "engines/value.h"
 
+#include "colour/colour.h"
 #include "engines/area.h"
 #include "engines/depth.h"
-#include "colour/colour.h"
-#include "windows/windows.h"
 #include "platform/raster/fast.h"
+#include "windows/windows.h"
 
 namespace kiso {
 

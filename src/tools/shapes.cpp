@@ -103,8 +103,10 @@ void box_drag(float X, float Y) {
   rubber_box(LineForm::box);
 }
 
+void box_erase() { rubber_box(LineForm::box); }
+
 void box_release(float X, float Y) {
-  rubber_box(LineForm::box);
+  box_erase();
   DRAW.DrawMode(COPY);
   box(to_int32(X), to_int32(Y), COL_A, LineForm::box);
 }

@@ -23,6 +23,7 @@ void line_erase();
 void line_release(float X, float Y);
 void box_press(float X, float Y);
 void box_drag(float X, float Y);
+void box_erase();
 void box_release(float X, float Y);
 void area_press(float X, float Y);
 void area_drag(float X, float Y);
@@ -72,6 +73,15 @@ void clipboard_hover(float X, float Y);
 void clipboard_stamp(float X, float Y);
 // What floats lands on DRAW, w x h pixels of it with the top left at that place, and floats no longer.
 void stamp_work(double left, double top, int w, int h);
+
+// area_engines.cpp: the rubber box goes, an engine works on what it held
+void chg_color_release(float X, float Y);
+void chg_color_rev_release(float X, float Y);
+void chg_color_fuzzy_release(float X, float Y);
+void chg_color_fuzzy_rev_release(float X, float Y);
+void glass_mirror_release(float X, float Y);
+void v_box_release(float X, float Y);
+void block_v_box_release(float X, float Y);
 
 // polygon_copy.cpp
 void polygon_copy_next(float X, float Y);
