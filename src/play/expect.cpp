@@ -1,8 +1,9 @@
 // Expectations: each holds or is told on standard error, and the run goes on.
 #include <filesystem>
 
+#include "platform/disk/disk.h"
+#include "platform/disk/paths.h"
 #include "platform/qt/images.h"
-#include "platform/text/disk.h"
 #include "platform/text/encoding.h"
 #include "play/names.h"
 #include "play/pictures.h"
@@ -127,7 +128,7 @@ void expect_no_box(const Args& /*args*/) {
 
 std::string bytes_of(const std::string& path) {
   try {
-    return text::disk::read_whole(path);
+    return disk::read_whole(path);
   } catch (const RuntimeError& e) {
     throw Unread{path, e.what()};
   }

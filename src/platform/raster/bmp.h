@@ -15,7 +15,7 @@ struct PictureBytes {
   const uint8_t* memory = nullptr;
   int file = -1;  // below 0: the bytes are those in memory
 
-  // Bytes that are not all there are error 481, a file that can not be read is error 75.
+  // Bytes that are not all there are error 481, others a file that can not be read (disk/errors.h).
   void read(uint64_t at, void* to, size_t n) const;
 };
 
@@ -25,9 +25,8 @@ struct PictureBytes {
 // bytes can hold; one that is too much for check_memory is error 7.
 Surface read_bmp(const PictureBytes& bytes, int depth = 32);
 
-// Writes 24 bits, bottom row first. The file is replaced whole (through a new file beside it that takes over its
-// permissions) or, on any error, left as it was; a symbolic link stays and what it points to is replaced. Errors: 76
-// the folder is missing, 75 it can not be a file, 70 permission denied, 61 disk full, 481 a surface without pixels.
+// Writes 24 bits, bottom row first: the whole file or, on any error, none of it (disk/new_file.h). A surface without
+// pixels is error 481.
 void save_bmp(const Surface& s, const std::string& path);
 
 }  // namespace raster

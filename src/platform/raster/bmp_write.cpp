@@ -1,97 +1,19 @@
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
-#include <filesystem>
 #include <new>
 #include <vector>
 
-#include "platform/raster/bmp_file.h"
+#include "platform/disk/new_file.h"
+#include "platform/error.h"
+#include "platform/raster/bmp.h"
 #include "platform/raster/bmp_pack.h"
 #include "platform/raster/line_buffer.h"
 
 namespace raster {
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr size_t STRIP_BYTES = size_t{256} << 10;  // stays in the cache between packing and writing
 constexpr size_t HEADER_BYTES = 54;
-
-fs::path end_of_links(fs::path path) {
-  for (int hops = 0; hops < 40; ++hops) {
-    std::error_code no_link;
-    const fs::path to = fs::read_symlink(path, no_link);
-    if (no_link) return path;
-    path = path.parent_path() / to;
-  }
-  throw RuntimeError(75);
-}
-
-// A new file beside the one that it will replace. It is removed unless it has taken that one's name.
-class Replacement {
- public:
-  explicit Replacement(const std::string& path) : target_(end_of_links(path)), handle_(create()) {}
-  ~Replacement() {
-    if (!temporary_.empty()) unlink(temporary_.c_str());
-  }
-  Replacement(const Replacement&) = delete;
-  Replacement& operator=(const Replacement&) = delete;
-
-  void write(const uint8_t* bytes, size_t n) {
-    while (n > 0) {
-      const ssize_t put = ::write(handle_.get(), bytes, n);
-      if (put < 0 && errno == EINTR) continue;
-      if (put <= 0) throw file_error(put < 0 ? errno : ENOSPC, 76);
-      bytes += put;
-      n -= static_cast<size_t>(put);
-    }
-  }
-
-  void replace() {
-    if (exists_) take_over_rights();
-    if (!handle_.close() || rename(temporary_.c_str(), target_.c_str()) != 0) throw file_error(errno, 76);
-    temporary_.clear();
-  }
-
- private:
-  int create() {
-    exists_ = stat(target_.c_str(), &old_) == 0;
-    if (!exists_ && errno != ENOENT) throw file_error(errno, 76);
-    if (!target_.has_filename() || (exists_ && !S_ISREG(old_.st_mode))) throw RuntimeError(75);
-    // A new file could take the place of one that is protected against writing; it must not.
-    if (exists_ && faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS) != 0) throw file_error(errno, 76);
-    for (int n = 0;; ++n) {
-      const std::string name = ".kiso-" + std::to_string(getpid()) + "-" + std::to_string(n) + ".tmp";
-      temporary_ = target_.parent_path() / name;
-      const int fd = open(temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, exists_ ? 0600 : 0666);
-      if (fd >= 0) return fd;
-      const int error = errno;
-      temporary_.clear();
-      if (error != EEXIST) throw file_error(error, 76);
-    }
-  }
-
-  // As far as the system allows: only root may give a file to another owner, a member may give it to the group, and
-  // some file systems know no rights. None of this is a reason not to save.
-  void take_over_rights() {
-    const int fd = handle_.get();
-    const bool group_kept =
-        fchown(fd, old_.st_uid, old_.st_gid) == 0 || fchown(fd, static_cast<uid_t>(-1), old_.st_gid) == 0;
-    // Rights that were meant for the old group are not for another one.
-    fchmod(fd, old_.st_mode & (group_kept ? 07777u : 07707u));
-  }
-
-  fs::path target_;
-  struct stat old_ {};
-  bool exists_ = false;
-  fs::path temporary_;
-  FileHandle handle_;
-};
 
 void put32(uint8_t* to, uint32_t value) {
   for (int i = 0; i < 4; ++i) to[i] = static_cast<uint8_t>(value >> 8 * i);
@@ -137,7 +59,7 @@ void save_bmp(const Surface& s, const std::string& path) try {
   put_header(strip.data(), s, row_bytes);
   size_t filled = HEADER_BYTES;
   RowSource rows(s);
-  Replacement file(path);
+  disk::NewFile file(path);
   for (int y = s.height() - 1; y >= 0; --y) {
     if (filled + row_bytes > strip.size()) {
       file.write(strip.data(), filled);
@@ -149,7 +71,7 @@ void save_bmp(const Surface& s, const std::string& path) try {
     filled += row_bytes;
   }
   file.write(strip.data(), filled);
-  file.replace();
+  file.take_its_name();
 } catch (const std::bad_alloc&) {
   throw RuntimeError(7);
 }

@@ -3,8 +3,10 @@
 #include <array>
 #include <memory>
 
+#include "platform/disk/disk.h"
+#include "platform/disk/new_file.h"
+#include "platform/disk/paths.h"
 #include "platform/error.h"
-#include "platform/text/disk.h"
 
 namespace text {
 
@@ -77,7 +79,7 @@ void FileCopy(const std::string& from, const std::string& to) { disk::write_whol
 void Name(const std::string& from, const std::string& to) { disk::rename(from, to, disk::Existing::kept); }
 
 void Replace(const std::string& from, const std::string& to) {
-  disk::take_permissions(from, to);
+  disk::take_rights_of(from, to);
   disk::rename(from, to, disk::Existing::replaced);
 }
 

@@ -53,8 +53,8 @@ void FileCopy(const std::string& from, const std::string& to);
 // Gives a file a name that no other has.
 void Name(const std::string& from, const std::string& to);
 
-// Gives a file the name and the permissions of another one, which it replaces in one step, so that there is always a
-// file of that name. A file that may not be written may not be replaced either.
+// Gives a file the name, the mode and the owner of another one, which it replaces in one step, so that there is always
+// a file of that name. A file that may not be written may not be replaced either.
 void Replace(const std::string& from, const std::string& to);
 
 }  // namespace text
