@@ -50,8 +50,10 @@ void AIP_CHECK(int& result);             // 1: its add-in is installed already, 
 // Installs what AIP_READ has read, after AIP_CHECK, and asks the user where it has to. False if it was refused; the
 // user has been told.
 bool AIP_INSTALL();
-// prefix, the six digits of the time, ".", extension
+// prefix, the six digits of the time, ".", extension: a name that no other run holds now. This run holds it until
+// TEMP_FREE or the next one.
 void TEMP_NAME(const std::string& prefix, const std::string& extension, std::string& result);
+void TEMP_FREE();
 // A command template with its tokens %GP %FN %ON %SO %OF replaced; %OF of a PIC_FILE below four characters is error 5.
 void EXPAND_COMMAND(const std::string& command, const std::string& temp, std::string& result);
 // Starts a program by a command line and returns when it has ended; events run meanwhile. False if there is no such

@@ -1,5 +1,10 @@
 // What carries every run of an add-in: the name of a temporary file, the expansion of a command template, and the wait.
 #include "addin/addin.h"
+
+#include <cstdio>
+
+#include "frame/p_win.h"
+#include "platform/disk/lock.h"
 #include "platform/forms/shell.h"
 #include "platform/text/paths.h"
 #include "platform/text/program_directory.h"
@@ -18,6 +23,20 @@ std::string picture_in_short_directory() {
 
 std::string picture_without_extension() { return text::Left(PIC_FILE, text::Len(PIC_FILE) - 4); }
 
+constexpr int SECONDS_OF_DAY = 24 * 60 * 60;
+
+disk::ByteLock held_name;  // of the temporary file that this run uses
+
+int second_of_day(const std::string& time) {
+  return (std::stoi(time.substr(0, 2)) * 60 + std::stoi(time.substr(3, 2))) * 60 + std::stoi(time.substr(6, 2));
+}
+
+std::string digits_of(int second) {
+  char digits[7];
+  std::snprintf(digits, sizeof digits, "%02d%02d%02d", second / 3600 % 24, second / 60 % 60, second % 60);
+  return digits;
+}
+
 struct Token {
   const char* word;
   std::string (*value)(const std::string& temp);
@@ -30,6 +49,14 @@ constexpr Token TOKENS[] = {
     {"%OF", [](const std::string&) { return picture_without_extension(); }},
 };
 
+// A file dropped meanwhile would become the picture under the other one's name.
+struct NoDrops {
+  NoDrops() { P_WIN.TakesFiles(false); }
+  ~NoDrops() { P_WIN.TakesFiles(true); }
+  NoDrops(const NoDrops&) = delete;
+  NoDrops& operator=(const NoDrops&) = delete;
+};
+
 const Token* token_at(const std::string& command, size_t at) {
   for (const Token& token : TOKENS)
     if (command.compare(at, 3, token.word) == 0) return &token;
@@ -38,10 +65,19 @@ const Token* token_at(const std::string& command, size_t at) {
 
 }  // namespace
 
+// Another run that holds the name has it for a file that lives now: then the next second's is taken.
 void TEMP_NAME(const std::string& prefix, const std::string& extension, std::string& result) {
+  TEMP_FREE();
   const std::string time = Time();
-  result = prefix + time.substr(0, 2) + time.substr(3, 2) + time.substr(6, 2) + "." + extension;
+  const int now = second_of_day(time);
+  for (int later = 0; later < SECONDS_OF_DAY; ++later) {
+    result = prefix + digits_of((now + later) % SECONDS_OF_DAY) + "." + extension;
+    held_name = text::hold_name(result);
+    if (held_name.held()) return;
+  }
 }
+
+void TEMP_FREE() { held_name = disk::ByteLock(); }
 
 void EXPAND_COMMAND(const std::string& command, const std::string& temp, std::string& result) {
   result = "";
@@ -58,6 +94,7 @@ bool RUN_AND_WAIT(const std::string& command) {
     MsgBox("Add_Inプログラムが見つかりません");
     return false;
   }
+  const NoDrops while_it_runs;
   while (!WaitForProgram(process, 200)) DoEvents();
   return true;
 }

@@ -2,6 +2,7 @@
 #include "addin/addin.h"
 #include "addin/file_tables.h"
 #include "addin/record.h"
+#include "platform/disk/lock.h"
 #include "platform/text/files.h"
 #include "platform/text/paths.h"
 #include "platform/text/text.h"
@@ -127,6 +128,7 @@ void empty_tables() {
 }  // namespace
 
 void READ_AIN() {
+  const disk::FolderLock lock(APP_PATH);
   if (text::Dir(registry_path()).empty()) {
     AD_CNT = FR_CNT = FW_CNT = SP_CNT = TWSL_ON = TWSC_ON = 0;
     WRITE_AIN();
@@ -141,6 +143,7 @@ void READ_AIN() {
 
 // The old registry is gone before the new one exists, so what can not be opened shows as an error at the first line.
 void WRITE_AIN() {
+  const disk::FolderLock lock(APP_PATH);
   const std::string old = text::Dir(registry_path()).empty() ? template_path() : registry_path();
   const text::Encoding encoding = text::encoding_of(old);
   const text::NumberScope in(1), out(2);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "addin/addin.h"
+#include "platform/disk/lock.h"
 #include "platform/qt/desktop.h"
 #include "platform/text/files.h"
 #include "platform/text/paths.h"
@@ -30,6 +31,7 @@ std::vector<std::string> shipped_addins() {
 // user's own, also when it is empty.
 void install_shipped_addins() {
   kiso::APP_PATH = text::SHORT_PATH(text::program_directory());
+  const disk::FolderLock lock(kiso::APP_PATH);  // of several first starts one installs, the others wait for it
   for (const char* file : {"KISO.CNF", "KISO.AIN"}) {
     if (!text::Dir(kiso::APP_PATH + PATH_SEP + file).empty()) return;
   }

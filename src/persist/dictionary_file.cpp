@@ -4,6 +4,7 @@
 #include "colour/colour.h"
 #include "persist/keyed_file.h"
 #include "persist/persist.h"
+#include "platform/disk/lock.h"
 #include "platform/text/files.h"
 #include "platform/text/text.h"
 
@@ -62,6 +63,7 @@ void show_dictionaries() {
 }  // namespace
 
 void READ_CDI() {
+  const disk::FolderLock lock(APP_PATH);
   const text::NumberScope file(1);
   try {
     open_dictionaries(in_app_path("KISO.CDI"));
@@ -77,6 +79,7 @@ void READ_CDI() {
 }
 
 void WRITE_CDI() {
+  const disk::FolderLock lock(APP_PATH);
   Walk walk;
   std::string comment;  // a line without one repeats that of the line before
   const std::string cdi = in_app_path("KISO.CDI");

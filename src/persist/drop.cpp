@@ -29,9 +29,9 @@ std::string cut(const std::string& name) {
 
 }  // namespace
 
-// What is dropped while the question stands open is gone.
+// What is dropped while the question stands open, or while an add-in has the picture, is gone.
 void p_win::DROP_WNDPROC(const std::vector<std::string>& files) {
-  if (dropping || files.empty()) return;
+  if (dropping || files.empty() || !P_WIN.TakesFiles()) return;
   dropping = true;
   const std::string name = cut(files[0]);
   if (MsgBox(name + "がドロップされました\r現在の画像は保存されませんがそれでもよろしいですか?", 36, APP_TITLE) != NO) {

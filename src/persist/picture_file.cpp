@@ -40,11 +40,14 @@ bool find_program(const std::string& id, std::string& exe) {
   return result == 0;
 }
 
-std::string temporary_name() {
-  std::string temp;
-  TEMP_NAME(APP_PATH + PATH_SEP + "GT", "BMP", temp);
-  return temp;
-}
+// The name of a file that the picture crosses in, for this run alone while this lives.
+struct TemporaryName {
+  TemporaryName() { TEMP_NAME(APP_PATH + PATH_SEP + "GT", "BMP", name); }
+  ~TemporaryName() { TEMP_FREE(); }
+  TemporaryName(const TemporaryName&) = delete;
+  TemporaryName& operator=(const TemporaryName&) = delete;
+  std::string name;
+};
 
 // Runs the add-in with what of its template could be expanded.
 bool run_addin(const std::string& exe, const std::string& command, const std::string& temp) {
@@ -86,7 +89,8 @@ bool save_by_addin(int writer, const std::string& name) {
   std::string exe;
   if (!find_program(FW_ID(writer), exe)) return false;
   PAL_HIDE();
-  const std::string temp = temporary_name();
+  const TemporaryName temporary;
+  const std::string& temp = temporary.name;
   const auto failure = failure_of([&] { SavePicture(PIC.Image(), temp); });
   PIC_FILE = name;
   // Without the picture a writer could only do harm to the target.
@@ -139,7 +143,9 @@ void LOAD_PICTURE(const std::string& name, int& result) {
     result = -2;
     return;
   }
-  const std::string file = reader < 0 ? name : temporary_name();
+  std::optional<TemporaryName> temporary;
+  if (reader >= 0) temporary.emplace();
+  const std::string& file = temporary ? temporary->name : name;
   try {
     if (reader < 0)
       PIC.Picture(LoadPicture(file));

@@ -12,6 +12,7 @@
 #include "palette/cmd_win.h"
 #include "persist/keyed_file.h"
 #include "persist/persist.h"
+#include "platform/disk/lock.h"
 #include "platform/text/files.h"
 #include "platform/text/text.h"
 
@@ -200,6 +201,7 @@ void write_setting(KeyedLine& line) {
 }  // namespace
 
 void READ_CNF() {
+  const disk::FolderLock lock(APP_PATH);
   const std::string cnf = in_app_path("KISO.CNF");
   set_built_ins();
   const text::NumberScope file(1);
@@ -213,6 +215,7 @@ void READ_CNF() {
 }
 
 void WRITE_CNF() {
+  const disk::FolderLock lock(APP_PATH);
   rewrite_keyed_file(in_app_path("DEFAULT.CNF"), in_app_path("KISO.CNF"), in_app_path("KISOCNF.TMP"), write_setting);
 }
 

@@ -19,6 +19,7 @@ inline const char* error_text(int number) {
     case 7: return "メモリが不足しています。";
     case 9: return "インデックスが有効範囲にありません。";
     case 11: return "0 で除算しました。";
+    case 51: return "内部エラーです。";
     case 52: return "ファイル名または番号が不正です。";
     case 53: return "ファイルが見つかりません。";
     case 54: return "ファイル モードが不正です。";

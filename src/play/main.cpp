@@ -103,7 +103,7 @@ int run(int argc, char** argv) {
 int main(int argc, char** argv) {
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed save, not the end
   setenv("QT_LOGGING_RULES", "*.debug=false;*.warning=false", 0);  // standard error is for expectations
-  play::PlayDesktop desktop(argc, argv);
+  play::PlayDesktop desktop(argv[0]);
   forms::use_desktop(&desktop);
   return play::run(argc, argv);
 }

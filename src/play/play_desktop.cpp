@@ -56,7 +56,7 @@ int next_answer(int style) {
 }  // namespace
 
 // The same screen and frames on every machine.
-PlayDesktop::PlayDesktop(int& argc, char** argv) : QtDesktop(argc, argv, true) {
+PlayDesktop::PlayDesktop(char* program) : QtDesktop(program, true) {
   screen_w = 1280;
   screen_h = 1024;
   depth = 32;

@@ -8,7 +8,7 @@ namespace play {
 
 class PlayDesktop : public qt::QtDesktop {
  public:
-  PlayDesktop(int& argc, char** argv);
+  explicit PlayDesktop(char* program);
 
   std::unique_ptr<forms::Peer> show(forms::Control& control) override;  // a timer has no peer: it ticks when told
   using QtDesktop::show;

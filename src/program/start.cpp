@@ -26,6 +26,11 @@ void ask_for_deep_display() {
   if (answer == 7) End();
 }
 
+void tell_of_folder_of_the_run() {
+  if (!text::is_folder_of_the_run()) return;
+  MsgBox("設定を保存するフォルダに書き込めません。\r今回は次のフォルダを使います。\r" + APP_PATH, 48, APP_TITLE);
+}
+
 // The picture of the command line, or a new one. Gives the name for the caption.
 std::string first_picture() {
   splash_win::show_status("Checking commandline..");
@@ -38,7 +43,7 @@ std::string first_picture() {
   splash_win::show_status("Loading..\r" + command_line_picture);
   int result = 0;
   LOAD_PICTURE(command_line_picture, result);
-  if (result != 0) End();  // LOAD_PICTURE has said why
+  if (result != 0) End(1);  // LOAD_PICTURE has said why
   return command_line_picture;
 }
 
@@ -111,6 +116,7 @@ void p_win::Form_Load() {
   APP_PATH = text::SHORT_PATH(text::program_directory());
   APP_TITLE = "Kiso ";
   ask_for_deep_display();
+  tell_of_folder_of_the_run();
   READ_AIN();
   SHOW_NAME(first_picture());
   start_values();

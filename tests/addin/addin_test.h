@@ -1,6 +1,7 @@
 // A program directory with a registry of the test's own, and a desktop that answers its questions.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "addin/addin.h"
@@ -11,11 +12,16 @@ namespace kiso {
 
 // The clock stands; what DoEvents lets in is counted.
 struct AddinDesktop : stage::StageDesktop {
-  std::string clock() override { return "09:05:07"; }
-  void do_events() override { ++event_rounds; }
+  std::string clock() override { return time; }
+  void do_events() override {
+    ++event_rounds;
+    at_event_round();
+  }
   void record(const char* kind, const std::string& entry) override {
     records.push_back(std::string(kind) + " " + entry);
   }
+  std::string time = "09:05:07";
+  std::function<void()> at_event_round = [] {};
   int event_rounds = 0;
   std::vector<std::string> records;
 };

@@ -1,4 +1,5 @@
 // Temporary names, command templates, and the wait for a program.
+#include <signal.h>
 #include <sys/wait.h>
 
 #include <chrono>
@@ -21,6 +22,68 @@ TEST_F(Commands, TemporaryNamesComeFromTheClock) {
   std::string name = "old";
   TEMP_NAME("/a b/GT", "BMP", name);
   EXPECT_EQ(name, "/a b/GT090507.BMP");
+}
+
+// Another run, until it is told to end.
+struct OtherRun {
+  explicit OtherRun(void (*run)()) {
+    int ready[2];
+    EXPECT_EQ(pipe(ready), 0);
+    process = fork();
+    if (process == 0) {
+      run();
+      if (write(ready[1], "", 1) == 1) pause();
+      _exit(0);
+    }
+    char byte = 0;
+    EXPECT_EQ(read(ready[0], &byte, 1), 1);
+  }
+  ~OtherRun() { end(); }
+  OtherRun(const OtherRun&) = delete;
+  OtherRun& operator=(const OtherRun&) = delete;
+  void end() {
+    if (process > 0) kill(process, SIGKILL);
+    if (process > 0) waitpid(process, nullptr, 0);
+    process = 0;
+  }
+  pid_t process;
+};
+
+void take_name() {
+  std::string name;
+  TEMP_NAME(APP_PATH + "/GT", "BMP", name);
+}
+
+TEST_F(Commands, ANameThatAnotherRunHoldsIsPassedOverUntilThatRunIsDone) {
+  const auto name = [](const char* extension) {
+    std::string result;
+    TEMP_NAME(APP_PATH + "/GT", extension, result);
+    return result.substr(APP_PATH.size());
+  };
+  OtherRun first(take_name), second(take_name);
+  EXPECT_EQ(name("BMP"), "/GT090509.BMP");
+  EXPECT_EQ(name("BMP"), "/GT090509.BMP") << "what this run holds itself does not count";
+  EXPECT_EQ(name("TXT"), "/GT090507.TXT") << "only that very name";
+  first.end();
+  EXPECT_EQ(name("BMP"), "/GT090507.BMP");
+  OtherRun done([] { take_name(), TEMP_FREE(); });
+  EXPECT_EQ(name("BMP"), "/GT090507.BMP");
+}
+
+TEST_F(Commands, TheNameBehindTheLastSecondOfTheDayIsItsFirst) {
+  desk.time = "23:59:59";
+  const OtherRun other(take_name);
+  std::string name;
+  TEMP_NAME(APP_PATH + "/GT", "BMP", name);
+  EXPECT_EQ(name, APP_PATH + "/GT000000.BMP");
+}
+
+TEST_F(Commands, NothingCanBeDroppedWhileAProgramRuns) {
+  const std::string slow = program("slow", "sleep 0.7");
+  desk.at_event_round = [] { EXPECT_FALSE(P_WIN.TakesFiles()); };
+  RUN_AND_WAIT(slow);
+  EXPECT_GE(desk.event_rounds, 1);
+  EXPECT_TRUE(P_WIN.TakesFiles());
 }
 
 TEST_F(Commands, TokensAreReplacedAndAllElseIsCopied) {

@@ -102,6 +102,14 @@ TEST(Drop, WhileTheQuestionStandsOpenIsGone) {
   EXPECT_EQ(desk().boxes.size(), 2U);
 }
 
+TEST(Drop, WhileAProgramOfAnAddInRunsIsGone) {
+  start();
+  P_WIN.TakesFiles(false);
+  drop({picture("a.bmp")});
+  EXPECT_TRUE(desk().boxes.empty());
+  EXPECT_EQ(PIC_FILE, "");
+}
+
 // The name as the question shows it.
 std::string asked_for(const std::string& name) {
   desk().answers = {7};

@@ -183,6 +183,17 @@ TEST_F(Controls, TextBoxTellsEachKeyThenTheText) {
   EXPECT_EQ(taken(), Said{"Text1 12"});
 }
 
+TEST_F(Controls, BytesThatAreNoTextStayInTheField) {
+  logic([] {
+    DIALOG.Text1.Text("bad\xff");
+    DIALOG.Show();
+  });
+  settle();
+  logic([] { DIALOG.Text1.Text("worse\xff"); });
+  settle();
+  EXPECT_EQ(DIALOG.Text1.Text(), "worse\xff");
+}
+
 TEST_F(Controls, TextBoxIsValidatedWhenItLosesTheFocus) {
   qt::widget_of(DIALOG)->activateWindow();
   settle();

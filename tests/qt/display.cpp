@@ -107,7 +107,7 @@ ToolWindow TOOL;
 DialogWindow DIALOG;
 
 void Display::start() {
-  desktop_ = std::make_unique<qt::QtDesktop>(argc_, argv_, true);
+  desktop_ = std::make_unique<qt::QtDesktop>(argv_[0], true);
   use_desktop(desktop_.get());
 }
 

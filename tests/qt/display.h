@@ -88,7 +88,6 @@ class Display : public testing::Test {
                   Qt::KeyboardModifiers modifiers = Qt::NoModifier, bool repeated = false);
   static std::vector<std::string> taken() { return std::exchange(said, {}); }
 
-  int argc_ = 1;
   char name_[8] = "qt";
   char* argv_[2] = {name_, nullptr};
   std::unique_ptr<qt::QtDesktop> desktop_;

@@ -65,6 +65,19 @@ TEST_F(Drops, ANameIsBytes) {
   EXPECT_EQ(taken(), (Said{"drop /p/bad\xff\xc3.bmp", "drop /p/絵%A#?.bmp"}));
 }
 
+TEST_F(Drops, AreRefusedByAWindowThatTakesNoFiles) {
+  QMimeData data;
+  offer(data, "file:///p/a.bmp\r\n");
+  EXPECT_TRUE(drop(data));
+  P.TakesFiles(false);
+  settle();
+  EXPECT_EQ(taken(), Said{}) << "it came before";
+  EXPECT_FALSE(drag(data));
+  EXPECT_FALSE(drop(data));
+  P.TakesFiles(true);
+  EXPECT_TRUE(drag(data));
+}
+
 TEST_F(Drops, NothingButFilesOfThisMachineIsTaken) {
   for (const char* list :
        {"", "http://example.org/a.bmp\r\n", "file://elsewhere.example/p/a.bmp\r\n", "\xff\xfe rubbish"}) {

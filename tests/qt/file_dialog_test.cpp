@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
@@ -121,6 +122,24 @@ TEST_F(FileDialogs, SavesOverAFileWithoutAQuestionOfItsOwnAndAddsNoEnding) {
     accept(box);
   }));
   EXPECT_EQ(dialog_.FileName, in("bare").toStdString());
+}
+
+TEST_F(FileDialogs, ANameThatIsNoTextIsRefusedWithAMessage) {
+  dialog_.save = true;
+  const std::string name = in("bad").toStdString() + "\xff.bmp";
+  dialog_.FileName = name;
+  QString told;
+  QTimer reader;
+  reader.callOnTimeout([&told] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return;
+    told = box->text();
+    box->accept();
+  });
+  reader.start(10);
+  EXPECT_FALSE(ask([](QFileDialog& box) { accept(box); }));
+  EXPECT_EQ(dialog_.FileName, name);
+  EXPECT_TRUE(told.startsWith(in("bad"))) << told.toStdString();
 }
 
 TEST_F(FileDialogs, APatternIsNoName) {

@@ -186,6 +186,34 @@ TEST_F(Files, ANumberIsFreeBehindItsScopeAndNothingIsWritten) {
   EXPECT_EQ(error_of([] { Print(2, ""); }), 52);
 }
 
+TEST_F(Files, TheFileThatAnErrorInterruptsIsKnown) {
+  put("A.TXT", "a\r\n");
+  const auto read_on = [&] {
+    const NumberScope in(1);
+    Open(folder + "A.TXT", Mode::Input, 1);
+    LineInput(1);
+    if (Dir(folder + "A.TXT").empty()) return;
+    throw RuntimeError(6);  // what its line says is no number of ours, say
+  };
+  EXPECT_EQ(error_of(read_on), 6);
+  EXPECT_EQ(interrupted_file(), folder + "A.TXT");
+  {
+    const NumberScope in(1);
+    Open(folder + "A.TXT", Mode::Input, 1);
+  }
+  EXPECT_EQ(interrupted_file(), "");
+  EXPECT_EQ(error_of([&] { FileCopy(folder + "NONE.TXT", folder + "B.TXT"); }), 53);
+  EXPECT_EQ(interrupted_file(), folder + "NONE.TXT");
+  EXPECT_EQ(error_of([&] {
+              const NumberScope in(1), out(2);
+              Open(folder + "A.TXT", Mode::Input, 1);
+              Open(folder + "B.TXT", Mode::Output, 2);
+              throw RuntimeError(9);
+            }),
+            9);
+  EXPECT_EQ(interrupted_file(), folder + "A.TXT");
+}
+
 // The limit on a file's size stands for the full disk.
 TEST_F(Files, AFullDiskIsToldAndTheOldFileStands) {
   put("A.TXT", "old\r\n");

@@ -1,7 +1,10 @@
 #include "platform/forms/runtime.h"
 
 #include <cmath>
+#include <cstdio>
 #include <ctime>
+#include <exception>
+#include <new>
 
 #include "platform/error.h"
 #include "platform/number.h"
@@ -14,11 +17,15 @@ constinit std::vector<Window*> windows;
 Desktop unseen;
 constinit Desktop* the_desktop = &unseen;
 
+constexpr int OUT_OF_MEMORY = 7, INTERNAL_ERROR = 51;
+
 constinit bool ended = false;
 constinit int ended_by = 0;
+constinit int status = 0;
 
-void stop_program() {
+void stop_program(int exit_status) {
   ended = true;
+  status = exit_status;
   for (Window* w : windows) w->drop();
   the_desktop->quit();
 }
@@ -50,33 +57,49 @@ std::string Desktop::clock() {
   return text;
 }
 
+namespace {
+
+// Not even the box of an error may throw through the display.
+void fail(int number, const std::string& text) {
+  ended_by = number;
+  try {
+    the_desktop->error_box(number, text);
+  } catch (...) {
+    std::fprintf(stderr, "%d: %s\n", number, text.c_str());
+  }
+  stop_program(1);
+}
+
+}  // namespace
+
 bool enter_raw(void (*run)(void*), void* with) {
   if (ended) return false;
   try {
     run(with);
-  } catch (const ProgramEnd&) {
-    stop_program();
+    if (!ended) flush();
+  } catch (const ProgramEnd& end) {
+    stop_program(end.status);
   } catch (const RuntimeError& e) {
-    ended_by = e.number;
-    the_desktop->error_box(e.number, e.what());
-    stop_program();
+    fail(e.number, e.what());
   } catch (const std::bad_alloc&) {
-    ended_by = 7;
-    the_desktop->error_box(7, error_text(7));
-    stop_program();
+    fail(OUT_OF_MEMORY, error_text(OUT_OF_MEMORY));
+  } catch (const std::exception& e) {
+    fail(INTERNAL_ERROR, error_text(INTERNAL_ERROR) + std::string("\n") + e.what());
+  } catch (...) {
+    fail(INTERNAL_ERROR, error_text(INTERNAL_ERROR));
   }
-  if (!ended) flush();
   return !ended;
 }
 
 bool has_ended() { return ended; }
 int fatal_error() { return ended_by; }
-void End() { throw ProgramEnd{}; }
+int exit_status() { return status; }
+void End(int status) { throw ProgramEnd{status}; }
 
 void DoEvents() {
   flush();
   the_desktop->do_events();
-  if (ended) throw ProgramEnd{};
+  if (ended) End(status);
 }
 
 void flush() {
@@ -105,7 +128,7 @@ bool reachable(const Control& control) {
 int MsgBox(const std::string& text, int style, const std::string& title) {
   flush();
   const int answer = the_desktop->message_box(text, style, title);
-  if (ended) throw ProgramEnd{};
+  if (ended) End(status);
   return answer;
 }
 
@@ -141,7 +164,7 @@ raster::Colour QBColor(int n) {
 void reset_runtime() {
   for (Window* w : windows) w->drop();
   ended = false;
-  ended_by = 0;
+  ended_by = status = 0;
 }
 
 }  // namespace forms

@@ -62,12 +62,14 @@ Desktop& desktop();
 void use_desktop(Desktop* d);
 
 // --- events
-struct ProgramEnd {};  // thrown by End; passes through all procedures up to the entry
+struct ProgramEnd {
+  int status;
+};  // thrown by End; passes through all procedures up to the entry
 
 bool enter_raw(void (*run)(void*), void* with);
-// Runs an event procedure. Whatever it throws stops here: a run-time error is shown in the platform's box and ends the
-// process. When it returns, what has changed goes to the screen, also while a procedure around it waits for a box or is
-// in DoEvents. False if the program has ended.
+// Runs an event procedure. Whatever it throws stops here, whatever bringing its changes to the screen throws too: an
+// error is shown in the platform's box and ends the process. When it returns, what has changed goes to the screen, also
+// while a procedure around it waits for a box or is in DoEvents. False if the program has ended.
 template <class F>
 bool enter(F&& procedure) {
   return enter_raw([](void* f) { (*static_cast<std::remove_reference_t<F>*>(f))(); },
@@ -76,8 +78,10 @@ bool enter(F&& procedure) {
 bool has_ended();
 // Number of the error that ended the program, 0 if none did.
 int fatal_error();
+// What the process ends with: 1 after such an error, else what End was given.
+int exit_status();
 // Ends the process at once, from whatever depth.
-[[noreturn]] void End();
+[[noreturn]] void End(int status = 0);
 // Lets waiting events in.
 void DoEvents();
 // Brings what has changed to the screen.

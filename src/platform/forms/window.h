@@ -199,6 +199,8 @@ class Window {
   void Enabled(bool v);
   int MousePointer() const { return touched().mouse_pointer_; }
   void MousePointer(int v);
+  bool TakesFiles() const { return takes_files_; }  // that are dropped on it; else a drop is refused
+  void TakesFiles(bool v) { takes_files_ = v; }
   const char* MouseIcon() const { return touched().mouse_icon_; }
   void MouseIcon(const char* cursor_sheet);
   uint32_t BackColor() const { return touched().back_color_; }
@@ -256,6 +258,7 @@ class Window {
   double width_ = 0, height_ = 0;
   int inside_w_ = 0, inside_h_ = 0;
   int frame_w_ = 0, frame_h_ = 0;
+  bool takes_files_ = true;
   bool outer_given_ = false;  // the program has asked for a size with its frame
   std::string caption_;
   int window_state_ = 0;

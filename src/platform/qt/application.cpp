@@ -61,7 +61,7 @@ int pixel_depth(int screen_depth) {
   return screen_depth >= 15 ? 16 : 8;
 }
 
-Application::Application(int& argc, char** argv, bool offscreen) {
+Application::Application(char* program, bool offscreen) : arguments{program, nullptr} {
   // A pixel of the picture is a whole number of the display's pixels, whatever scale the user has set.
   const WhileMade policy("QT_SCALE_FACTOR_ROUNDING_POLICY", "Round");
   const WhileMade scale("QT_SCALE_FACTOR", whole_scales(qgetenv("QT_SCALE_FACTOR")));
@@ -72,7 +72,7 @@ Application::Application(int& argc, char** argv, bool offscreen) {
 
   if (offscreen) qInstallMessageHandler(pass_over_warnings);
   QApplication::setStyle(new ShortHandles);  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): Qt owns it
-  app.emplace(argc, argv);
+  app.emplace(count, arguments);
   // Every point of a fast stroke counts. Told after the application is made, as making it for X11 turns the merging on.
   QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
   QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);

@@ -7,8 +7,10 @@
 namespace qt {
 
 struct Application {
-  Application(int& argc, char** argv, bool offscreen);
+  Application(char* program, bool offscreen);
 
+  char* arguments[2];  // Qt keeps them
+  int count = 1;
   std::optional<QApplication> app;
 };
 

@@ -4,6 +4,7 @@
 #include <QPixmap>
 #include <QScreen>
 #include <QTimer>
+#include <cstdlib>
 
 #include "platform/qt/application.h"
 #include "platform/qt/boxes.h"
@@ -14,14 +15,28 @@
 #include "platform/qt/peer.h"
 #include "platform/qt/pointer.h"
 #include "platform/qt/x11.h"
+#include "platform/text/files.h"
 
 namespace qt {
 
 using forms::Control;
 using forms::Kind;
 
-QtDesktop::QtDesktop(int& argc, char** argv, bool offscreen)
-    : application_(std::make_unique<Application>(argc, argv, offscreen)) {
+namespace {
+
+constexpr int DISPLAY_HAS_GONE = 2;  // exit status
+
+constinit bool events_run = false;
+
+// Qt ends the process from within its events when the display goes. Nothing may be taken down then: what it is made of
+// still stands on the stack.
+void leave_at_once() {
+  if (events_run) std::_Exit(DISPLAY_HAS_GONE);
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(char* program, bool offscreen) : application_(std::make_unique<Application>(program, offscreen)) {
   const QScreen* screen = QGuiApplication::primaryScreen();
   screen_w = screen->size().width();
   screen_h = screen->size().height();
@@ -67,14 +82,16 @@ int QtDesktop::message_box(const std::string& text, int style, const std::string
 
 bool QtDesktop::file_dialog(forms::FileDialog& dialog) { return qt::file_dialog(dialog); }
 
-void QtDesktop::error_box(int number, const std::string& text) {
-  qt::message_box("実行時エラー '" + std::to_string(number) + "':\n\n" + text, 16,
-                  from_qt(QCoreApplication::applicationName()));
+void QtDesktop::error_box(int number, const std::string& what) {
+  const std::string file = text::interrupted_file();
+  qt::message_box(
+      "実行時エラー '" + std::to_string(number) + "':\n\n" + what + (file.empty() ? "" : "\n\nファイル名 : " + file),
+      16, from_qt(QCoreApplication::applicationName()));
 }
 
 void QtDesktop::do_events() { QCoreApplication::processEvents(); }
 void QtDesktop::beep() { QApplication::beep(); }
-void QtDesktop::quit() { QCoreApplication::exit(forms::fatal_error() ? 1 : 0); }
+void QtDesktop::quit() { QCoreApplication::exit(forms::exit_status()); }
 void QtDesktop::pointer_move(int dx, int dy) { keypad_move(dx, dy); }
 void QtDesktop::pointer_button(bool down) { keypad_button(down); }
 
@@ -93,11 +110,15 @@ void QtDesktop::text_size(const std::string& text, const forms::Font& font, int 
 
 int QtDesktop::run(void (*start)(const std::string& command_line), const std::string& command_line) {
   QTimer::singleShot(0, [&] { forms::enter([&] { start(command_line); }); });
-  return QCoreApplication::exec();
+  std::atexit(leave_at_once);
+  events_run = true;
+  const int status = QCoreApplication::exec();
+  events_run = false;
+  return status;
 }
 
 int run_desktop(int argc, char** argv, const char* icon, void (*start)(const std::string& command_line)) {
-  QtDesktop desktop(argc, argv);
+  QtDesktop desktop(argv[0]);
   if (const forms::Sheet* sheet = find_sheet(icon)) {
     QApplication::setWindowIcon(QPixmap::fromImage(picture_of(*sheet)));
   }

@@ -14,8 +14,9 @@ class ForeignPicture;
 // One at a time in a process. Whoever wants other answers to boxes, or no timers, derives from it and keeps the rest.
 class QtDesktop : public forms::Desktop {
  public:
-  // Takes what is meant for the display out of argv. offscreen: a display in memory that nobody looks at.
-  QtDesktop(int& argc, char** argv, bool offscreen = false);
+  // program: argv[0], all that Qt gets of the command line, which is one file name and holds no options. offscreen: a
+  // display in memory that nobody looks at.
+  explicit QtDesktop(char* program, bool offscreen = false);
   // Drops all windows and gives the runtime back the display that it had before.
   ~QtDesktop() override;
   QtDesktop(const QtDesktop&) = delete;

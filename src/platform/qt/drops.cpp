@@ -48,7 +48,9 @@ class DropTarget final : public QObject {
   }
 
  private:
-  bool is_open() const { return forms::reachable(window_) && !QApplication::activeModalWidget(); }
+  bool is_open() const {
+    return forms::reachable(window_) && window_.TakesFiles() && !QApplication::activeModalWidget();
+  }
 
   bool answer(QDropEvent& event) {
     const bool taken = is_open() && !files_in(*event.mimeData()).empty();

@@ -1,5 +1,6 @@
 #include "platform/qt/file_dialog.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
@@ -7,6 +8,7 @@
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
+#include "platform/qt/boxes.h"
 #include "platform/qt/look.h"
 
 namespace qt {
@@ -68,6 +70,13 @@ void lay_out_list(const QFileDialog& dialog) {
   list->header()->setSectionResizeMode(NAME, QHeaderView::Stretch);
 }
 
+// Qt puts this character where a name is no text: it would be another file's name.
+bool refuse(const QString& name) {
+  message_box(from_qt(name) + "\rファイル名に文字でない部分があるため、ここでは選べません。", 48,
+              from_qt(QCoreApplication::applicationName()));
+  return false;
+}
+
 }  // namespace
 
 QStringList name_filters(const std::string& filter) {
@@ -100,7 +109,9 @@ bool file_dialog(forms::FileDialog& dialog) {
   propose(box, dialog.FileName);
   lay_out_list(box);
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return false;
-  dialog.FileName = box.selectedFiles().first().toStdString();
+  const QString chosen = box.selectedFiles().first();
+  if (chosen.contains(QChar::ReplacementCharacter)) return refuse(chosen);
+  dialog.FileName = chosen.toStdString();
   return true;
 }
 

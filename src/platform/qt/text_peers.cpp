@@ -32,8 +32,9 @@ class TextPeer final : public ControlPeer {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // What the field shows of the program's own text is not typed: bytes that are no text would come back as others.
   void typed(const QString& text) {
-    if (reachable()) user_event([&] { box_.Text(from_qt(text)); });
+    if (text != to_qt(box_.Text()) && reachable()) user_event([&] { box_.Text(from_qt(text)); });
   }
   void leave();
 

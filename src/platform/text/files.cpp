@@ -1,6 +1,7 @@
 #include "platform/text/files.h"
 
 #include <array>
+#include <exception>
 #include <memory>
 
 #include "platform/disk/disk.h"
@@ -35,15 +36,20 @@ OpenFile& file(int number, Mode mode) {
   return *f;
 }
 
+std::string interrupted;  // see interrupted_file
+
 }  // namespace
 
 void Open(const std::string& path, Mode mode, int number, Encoding encoding) {
   if (file(number)) throw RuntimeError(55);
   OpenFile opened{path, mode, encoding, {}, 0};
-  if (mode == Mode::Input)
+  if (mode == Mode::Input) {
+    interrupted = path;
     opened.lines = decode(disk::read_whole(path));
-  else
+    interrupted.clear();
+  } else {
     disk::check_writable(path);
+  }
   file(number) = std::make_unique<OpenFile>(std::move(opened));
 }
 
@@ -60,7 +66,15 @@ void Close(int number) {
   if (f && f->mode == Mode::Output) disk::write_whole(f->path, encode(f->lines, f->encoding));
 }
 
-NumberScope::~NumberScope() { file(number).reset(); }
+NumberScope::~NumberScope() {
+  const std::unique_ptr<OpenFile> f = std::move(file(number));
+  if (std::uncaught_exceptions() == exceptions_before_)
+    interrupted.clear();
+  else if (f && f->mode == Mode::Input)
+    interrupted = f->path;
+}
+
+std::string interrupted_file() { return interrupted; }
 
 Encoding encoding_of(const std::string& path) {
   try {
@@ -74,7 +88,12 @@ std::string Dir(const std::string& path) { return disk::is_file(path) ? path.sub
 
 void Kill(const std::string& path) { disk::remove(path); }
 
-void FileCopy(const std::string& from, const std::string& to) { disk::write_whole(to, disk::read_whole(from)); }
+void FileCopy(const std::string& from, const std::string& to) {
+  interrupted = from;
+  const std::string bytes = disk::read_whole(from);
+  interrupted.clear();
+  disk::write_whole(to, bytes);
+}
 
 void Name(const std::string& from, const std::string& to) { disk::rename(from, to, disk::Existing::kept); }
 

@@ -7,6 +7,7 @@
 // the old file stands as it was. Reading one above 64 MB is error 7.
 #pragma once
 
+#include <exception>
 #include <string>
 
 #include "platform/text/encoding.h"
@@ -36,7 +37,13 @@ struct NumberScope {
   NumberScope(const NumberScope&) = delete;
   NumberScope& operator=(const NumberScope&) = delete;
   const int number;
+
+ private:
+  const int exceptions_before_ = std::uncaught_exceptions();
 };
+
+// The file that was being read when the error came up that is on its way out, or was on it last; "" for none.
+std::string interrupted_file();
 
 // The encoding of the file at a path, to write the one that replaces it; UTF-8 if it can not be read.
 Encoding encoding_of(const std::string& path);

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "platform/error.h"
 #include "platform/text/files.h"
 
 namespace text {
@@ -27,10 +28,12 @@ bool holds_templates(const std::string& directory) {
   return !Dir(directory + "/DEFAULT.CNF").empty() && access(directory.c_str(), W_OK) == 0;
 }
 
+// "" for a user without a home.
 std::string users_directory() {
   std::string base = environment("XDG_DATA_HOME");
-  if (base.empty()) base = environment("HOME") + "/.local/share";
-  return base + "/kiso";
+  if (!base.empty()) return base + "/kiso";
+  const std::string home = environment("HOME");
+  return home.empty() ? "" : home + "/.local/share/kiso";
 }
 
 // A template that the user has changed stays.
@@ -54,13 +57,36 @@ std::string private_directory() {
   return ours && (found.st_mode & 077) == 0 ? base : "";
 }
 
-// The same path has the same link from run to run. FNV-1a.
-std::string link_name(const std::string& path) {
+// FNV-1a.
+uint64_t hash_of(const std::string& path) {
   uint64_t hash = 1469598103934665603U;
   for (const unsigned char c : path) hash = (hash ^ c) * 1099511628211U;
+  return hash;
+}
+
+// The same path has the same link from run to run.
+std::string link_name(const std::string& path) {
   char name[17];
-  std::snprintf(name, sizeof name, "%016llx", static_cast<unsigned long long>(hash));
+  std::snprintf(name, sizeof name, "%016llx", static_cast<unsigned long long>(hash_of(path)));
   return name;
+}
+
+bool can_be_written(const std::string& directory) { return access(directory.c_str(), W_OK | X_OK) == 0; }
+
+// A folder of this run, for who has none that can be written. It has the templates and what can be read of the user's
+// own files, and stays behind the run: an auto save may lie in it.
+std::string make_folder_of_the_run(const std::string& users) {
+  std::string folder = (fs::temp_directory_path() / "kiso-XXXXXX").string();
+  if (!mkdtemp(folder.data())) return users;
+  for (const char* name : {"KISO.CNF", "KISO.AIN", "KISO.CDI", "DEFAULT.CNF", "DEFAULT.AIN", "DEFAULT.CDI"})
+    ignore_errors([&] { FileCopy(users + "/" + name, folder + "/" + name); });
+  fill_with_templates(folder);
+  return folder;
+}
+
+std::string& folder_of_the_run() {
+  static std::string folder;
+  return folder;
 }
 
 }  // namespace
@@ -71,13 +97,23 @@ std::string executable_directory() {
 }
 
 std::string program_directory() {
-  const std::string home = environment("KISO_HOME");
-  if (!home.empty()) return home;
-  const std::string own = executable_directory();
-  if (holds_templates(own)) return own;
-  const std::string users = users_directory();
-  fill_with_templates(users);
-  return users;
+  if (is_folder_of_the_run()) return folder_of_the_run();
+  std::string directory = environment("KISO_HOME");
+  if (directory.empty() && holds_templates(executable_directory())) return executable_directory();
+  if (directory.empty()) {
+    directory = users_directory();
+    if (!directory.empty()) ignore_errors([&] { fill_with_templates(directory); });
+  }
+  if (!can_be_written(directory)) directory = folder_of_the_run() = make_folder_of_the_run(directory);
+  return directory;
+}
+
+bool is_folder_of_the_run() { return !folder_of_the_run().empty(); }
+
+// FNV-1a of the name is the byte that stands for it.
+disk::ByteLock hold_name(const std::string& path) {
+  const std::string directory = private_directory();
+  return {directory.empty() ? "" : directory + "/LOCK", static_cast<off_t>(hash_of(path) >> 1)};
 }
 
 std::string SHORT_PATH(const std::string& path) {
