@@ -27,13 +27,13 @@
 #include <vector>
 
 #include "kisoimg/svg.h"
+#include "platform/disk/disk.h"
 #include "platform/error.h"
 #include "platform/qt/image_reader.h"
 #include "platform/qt/surface_image.h"
 #include "platform/raster/bmp_file.h"
 #include "platform/raster/ico.h"
 #include "platform/raster/memory.h"
-#include "platform/text/disk.h"
 
 namespace {
 
@@ -79,7 +79,7 @@ void limit_memory() {
 raster::Surface read_picture(const std::string& name) {
   const raster::PictureFile opened(name);
   QFile file;
-  if (!file.open(opened.handle.get(), QIODevice::ReadOnly)) throw RuntimeError(75);
+  if (!file.open(opened.file.number(), QIODevice::ReadOnly)) throw RuntimeError(75);
   limit_memory();
   const QByteArray kind = kind_of(file, ending_of(name));
   if (kind.startsWith("svg")) return kisoimg::read_svg(file);
@@ -119,7 +119,7 @@ raster::Surface take_picture(const std::string& temp) {
 // stands there again after it, so that a run that was killed tells as much as one that gave up.
 void write_from(const std::string& temp, const std::string& name, int quality) {
   const raster::Surface picture = take_picture(temp);
-  text::disk::write_whole(name, encoded(qt::image_over(picture), ending_of(name), quality).toStdString());
+  disk::write_whole(name, encoded(qt::image_over(picture), ending_of(name), quality).toStdString());
   std::ofstream(temp).flush();
 }
 

@@ -17,9 +17,7 @@ using raster::Surface;
 class Random {
  public:
   explicit Random(uint32_t seed) : engine_(seed) {}
-  int between(int low, int high) {
-    return low + static_cast<int>(engine_() % static_cast<uint32_t>(high - low + 1));
-  }
+  int between(int low, int high) { return low + static_cast<int>(engine_() % static_cast<uint32_t>(high - low + 1)); }
   bool once_in(int n) { return between(1, n) == 1; }
   template <class T, size_t N>
   T one_of(const T (&items)[N]) {

@@ -3,11 +3,11 @@
 #include <QBuffer>
 #include <cstring>
 
+#include "platform/disk/disk.h"
 #include "platform/error.h"
 #include "platform/qt/image_reader.h"
 #include "platform/qt/surface_image.h"
 #include "platform/raster/draw.h"
-#include "platform/text/disk.h"
 
 namespace qt {
 
@@ -34,7 +34,7 @@ bool save_png(const raster::Surface& surface, const std::string& path) {
   BitBlt(copy, 0, 0, surface.width(), surface.height(), surface, 0, 0);
   QBuffer bytes;
   if (!image_over(copy).save(&bytes, "PNG")) return false;
-  return ignore_errors([&] { text::disk::write_whole(path, bytes.data().toStdString()); }) == 0;
+  return ignore_errors([&] { disk::write_whole(path, bytes.data().toStdString()); }) == 0;
 }
 
 raster::Surface load_any_picture(const std::string& path) {
@@ -43,7 +43,7 @@ raster::Surface load_any_picture(const std::string& path) {
   } catch (const RuntimeError& e) {
     if (e.number != 481) throw;
   }
-  return picture_from_bytes(QByteArray::fromStdString(text::disk::read_whole(path)));
+  return picture_from_bytes(QByteArray::fromStdString(disk::read_whole(path)));
 }
 
 }  // namespace qt

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "platform/disk/paths.h"
 #include "platform/error.h"
 #include "platform/text/files.h"
 
@@ -25,7 +26,7 @@ std::string environment(const char* name) {
 }
 
 bool holds_templates(const std::string& directory) {
-  return !Dir(directory + "/DEFAULT.CNF").empty() && access(directory.c_str(), W_OK) == 0;
+  return !Dir(directory + "/DEFAULT.CNF").empty() && disk::may(directory, W_OK);
 }
 
 // "" for a user without a home.
@@ -71,7 +72,7 @@ std::string link_name(const std::string& path) {
   return name;
 }
 
-bool can_be_written(const std::string& directory) { return access(directory.c_str(), W_OK | X_OK) == 0; }
+bool can_be_written(const std::string& directory) { return disk::may(directory, W_OK | X_OK); }
 
 // A folder of this run, for who has none that can be written. It has the templates and what can be read of the user's
 // own files, and stays behind the run: an auto save may lie in it.
