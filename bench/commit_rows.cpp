@@ -18,7 +18,7 @@ double commit(int rate) {
 double commit1() { return commit(1); }
 double commit8() { return commit(8); }
 
-void read_back_cells() { read_back(pictures().cells, 0, 0, CELLS_W, CELLS_H, pictures().view, 8); }
+void read_back_cells() { read_back(pictures().cells, 0, 0, CELLS_W, CELLS_H, pictures().view, 0, 0, 8); }
 
 double readback8() { return timed_each(SHORT, read_back_cells); }
 

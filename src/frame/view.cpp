@@ -74,7 +74,7 @@ void VIEW_COMMIT() {
     }
   } else {
     take_snapshot();
-    read_back(PIC, VIEW_ORG(1), VIEW_ORG(2), VIEW_PIX(1), VIEW_PIX(2), DRAW, EXP_RATE);
+    read_back(PIC, VIEW_ORG(1), VIEW_ORG(2), VIEW_PIX(1), VIEW_PIX(2), DRAW, 0, 0, EXP_RATE);
   }
 }
 

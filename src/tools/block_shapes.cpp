@@ -45,7 +45,7 @@ void start_at(float X, float Y) {
 void prepare(float X, float Y) {
   begin_preview();
   WORK.Move(0, 0, VIEW_PIX(1), VIEW_PIX(2));
-  read_back(WORK, 0, 0, VIEW_PIX(1), VIEW_PIX(2), M_REDRAW, EXP_RATE);
+  read_back(WORK, 0, 0, VIEW_PIX(1), VIEW_PIX(2), M_REDRAW, 0, 0, EXP_RATE);
   start_at(X, Y);
   WORK.DrawWidth(PEN_SIZE);
   WORK.DrawStyle(0);

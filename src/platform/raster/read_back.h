@@ -6,7 +6,8 @@
 
 namespace raster {
 
-// w x h picture pixels of dest from x, y on, from the blocks of rate x rate pixels of source, from its top left.
-void read_back(Surface& dest, int x, int y, int w, int h, const Surface& source, int rate);
+// w x h picture pixels of dest from x, y on, from the blocks of rate x rate pixels of source from sx, sy on. What lies
+// outside of source leaves dest as it was.
+void read_back(Surface& dest, int x, int y, int w, int h, const Surface& source, int sx, int sy, int rate);
 
 }  // namespace raster
