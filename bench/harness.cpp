@@ -174,6 +174,7 @@ int main(int argc, char** argv) {
            add_file_rows,
            add_tool_rows,
            add_engine_rows,
+           add_pen_rows,
            add_colour_rows,
            add_qt_rows,
 #ifdef KISO_BENCH_OPENCV

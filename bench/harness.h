@@ -32,6 +32,7 @@ void add_colour_rows(Rows& rows);
 void add_commit_rows(Rows& rows);
 void add_tool_rows(Rows& rows);
 void add_engine_rows(Rows& rows);
+void add_pen_rows(Rows& rows);
 void add_qt_rows(Rows& rows);
 void add_opencv_rows(Rows& rows);
 void add_pixman_rows(Rows& rows);
