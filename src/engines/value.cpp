@@ -4,6 +4,7 @@
 #include "engines/area.h"
 #include "engines/depth.h"
 #include "platform/raster/fast.h"
+#include "platform/raster/pixel.h"
 #include "windows/windows.h"
 
 namespace kiso {
@@ -121,6 +122,13 @@ void scale_avx2(Surface& s, double factor) {
 #endif
 
 }  // namespace
+
+void scale_row(uint32_t* pixels, int n, double factor) {
+#if defined(RASTER_AVX2)
+  if (avx2()) return row_avx2(pixels, n, factor);
+#endif
+  for (int x = 0; x < n; ++x) pixels[x] = rgb32_of(with_value(colour_of(pixels[x]), factor));
+}
 
 void scale_value(Surface& s, double factor) {
   WAIT_PROGRESS(0, s.width());

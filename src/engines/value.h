@@ -9,6 +9,9 @@ namespace kiso {
 double v_factor();
 // V times factor, at most 1. The new components are truncated, so that also a factor of 1 may take one off.
 Colour with_value(Colour c, double factor);
+// n pixels of a row of a surface at depth 32, from its first one; those behind them, as many as make groups of eight,
+// may change too.
+void scale_row(uint32_t* pixels, int n, double factor);
 // WAIT_PROGRESS is told 0, then columns 0 to the width.
 void scale_value(Surface& s, double factor);
 

@@ -20,6 +20,7 @@ int32_t POLY_N = 0;
 Array<int32_t, 0, 256> POLY_COL;
 Array<int32_t, 1, 2> BEZ_P0, BEZ_P3;
 Array<int32_t, 1, 4> RECT_NEW, RECT_OLD;
+Array<Array<float, 0, 36>, 0, 36> BRUSH_CELL;
 int32_t AREA_DX = 0, AREA_DY = 0, AREA_W = 0, AREA_H = 0;
 
 namespace {

@@ -67,8 +67,10 @@ extern int16_t RUBBER_ON;                // 1: a rubber figure of a multi-click 
 extern Array<Point, 0, 256> POLY_PTS;    // vertices; the first four serve as the points of a curve
 extern int32_t POLY_N;                   // count of vertices
 extern Array<int32_t, 0, 256> POLY_COL;  // colour of each vertex of a chain
-extern Array<int32_t, 1, 2> BEZ_P0, BEZ_P3;       // ends of the curve
-extern Array<int32_t, 1, 4> RECT_NEW, RECT_OLD;   // snapped rectangle at the press; last rubber rectangle
+extern Array<int32_t, 1, 2> BEZ_P0, BEZ_P3;      // ends of the curve
+extern Array<int32_t, 1, 4> RECT_NEW, RECT_OLD;  // snapped rectangle at the press; last rubber rectangle
+// Share of the old pixel that a brush leaves, at x, y of its tile; 0: outside of the brush.
+extern Array<Array<float, 0, 36>, 0, 36> BRUSH_CELL;
 extern int32_t AREA_DX, AREA_DY, AREA_W, AREA_H;  // floating area: offset from the pointer, size
 
 namespace p_win {

@@ -185,6 +185,7 @@ constexpr VariableRow VARIABLES[] = {
     ROW(BEZ_P3),
     ROW(RECT_NEW),
     ROW(RECT_OLD),
+    {"BRUSH_CELL", 2, [](At i) -> Variable { return &BRUSH_CELL(i[0])(i[1]); }},
     PLAIN(AREA_DX),
     PLAIN(AREA_DY),
     PLAIN(AREA_W),
@@ -246,7 +247,9 @@ void assign(const Variable& variable, const std::string& value) {
   std::visit(Cases{[&](std::string* s) { *s = value; },
                    [](const raster::Point* /*p*/) { throw ScriptError("a point is set by its coordinates"); },
                    [&](int16_t* n) { assign_whole(*n, value); }, [&](int32_t* n) { assign_whole(*n, value); },
-                   [&](uint32_t* n) { assign_whole(*n, value); }, [&](double* n) { *n = real_number(value); }},
+                   [&](uint32_t* n) { assign_whole(*n, value); },
+                   [&](float* n) { *n = static_cast<float>(real_number(value)); },
+                   [&](double* n) { *n = real_number(value); }},
              variable);
 }
 

@@ -10,7 +10,7 @@
 
 namespace play {
 
-using Variable = std::variant<int16_t*, int32_t*, uint32_t*, double*, std::string*, raster::Point*>;
+using Variable = std::variant<int16_t*, int32_t*, uint32_t*, float*, double*, std::string*, raster::Point*>;
 
 struct VariableRow {
   std::string_view name;

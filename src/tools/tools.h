@@ -83,6 +83,26 @@ void glass_mirror_release(float X, float Y);
 void v_box_release(float X, float Y);
 void block_v_box_release(float X, float Y);
 
+// pens.cpp: the pixel engines that work as pens
+void mask_press(float X, float Y);
+void mask_release(float X, float Y);
+void mask_rev_press(float X, float Y);
+void mask_rev_release(float X, float Y);
+void mask_fuzzy_press(float X, float Y);
+void mask_fuzzy_release(float X, float Y);
+void pen_v_press(float X, float Y);
+void pen_v_release(float X, float Y);
+void spray_press(float X, float Y);
+void spray_air_press(float X, float Y);
+void spray_air_mask_press(float X, float Y);
+void spray_release(float X, float Y);
+void spray_dot_tick();
+void spray_mask_tick();
+void spray_air_tick();
+void spray_air_mask_tick();
+void thru_press(float X, float Y);
+void side_change(float X, float Y);
+
 // polygon_copy.cpp
 void polygon_copy_next(float X, float Y);
 void polygon_copy_close(float X, float Y);
