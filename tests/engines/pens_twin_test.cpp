@@ -66,7 +66,7 @@ constexpr Pen PENS[] = {
     {"SPRAY_AIR", SPRAY_AIR_PREP, SPRAY_AIR},
     {"SPRAY_AIR_MASK", SPRAY_AIR_PREP, SPRAY_AIR_MASK},
     {"PEN_THRU", PEN_THRU_PREP, PEN_THRU},
-    {"SIDE_CHANGE", nothing, [](float X, float Y) { SIDE_CHANGE(X, Y, 1 + static_cast<int>(X + Y) % 4); }},
+    {"SIDE_CHANGE", nothing, [](float X, float Y) { SIDE_CHANGE(X, Y, 1 + (static_cast<int>(X + Y) & 3)); }},
 };
 
 class Twins : public testing::TestWithParam<Pen> {};
