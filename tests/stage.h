@@ -1,5 +1,6 @@
 // The editor on a stage for tests: started without a display, in a program directory of its own, with a small picture
-// that is written and read as text. Every test runs in a process of its own, so the editor starts fresh.
+// that is written and read as text. Every test runs in a process of its own, so the editor starts fresh. How much of
+// the editor there is, the start.cpp of a folder says: the rooms that its tests link.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,13 +14,9 @@
 #include <string>
 #include <vector>
 
-#include "colour/col_win.h"
 #include "frame/p_win.h"
-#include "frame/p_win_events.h"
 #include "frame/usr_sub.h"
-#include "palette/cmd_win.h"
 #include "platform/forms/dialogs.h"
-#include "program/program.h"
 
 namespace stage {
 
@@ -133,10 +130,19 @@ inline Home& home() {
   return the_home;
 }
 
-inline void start(const std::string& command_line = "") {
-  home();
-  forms::use_desktop(&desk());
-  forms::enter([&] { START_PROGRAM(command_line); });
+void start(const std::string& command_line = "");  // in start.cpp
+
+// The main window on the screen with the values of a fresh start, for a start without the program.
+inline void show_main_window() {
+  LOADING_FLAG = 0;
+  APP_PATH = home().path;
+  STATUS_H = to_int16(INF_POSX.Height() + 5);
+  PIC_SIZE(1) = to_int16(PIC.ScaleWidth());
+  PIC_SIZE(2) = to_int16(PIC.ScaleHeight());
+  PAL_SHOW();
+  UNDO_BUTTON(2);
+  P_WIN.Show();
+  TOOL_CHANGED();
 }
 
 // The free area for the picture gets w x h screen pixels.
@@ -196,9 +202,6 @@ inline void zoom(int rate, int x = 0, int y = 0) {
     X_SC.Value(x);
     Y_SC.Value(y);
   });
-}
-inline void pen(int size) {
-  forms::enter([&] { CMD_WIN.PEN_SZ_SB.Value(size); });
 }
 
 // --- the pointer on DRAW, in its pixels

@@ -12,6 +12,7 @@ void HSV_TO_RGB(double h, double& s, double& v, double& r, double& g, double& b)
 void COL_LOAD_WORK();                     // CUR_ from the colour that is being edited
 void COL_UPDATE();                        // commits a change of CUR_; the single way to do so
 void COL_DRAW_BARS(int r, int g, int b);  // the three level bars
+void mark_edited_colour();                // which of the two colours is edited, and whether the Spoit picks it
 
 // Shows a COLINDEX cell: that colour, and a letter that can be read on it.
 void DICT_CELL_SHOW(int index, int r, int g, int b);

@@ -14,6 +14,13 @@ void COL_LOAD_WORK() {
   }
 }
 
+void mark_edited_colour() {
+  Shape& selected = COL_TARGET == 0 ? COL_WIN.TAR_SEL : COL_WIN.DES_SEL;
+  Shape& other = COL_TARGET == 0 ? COL_WIN.DES_SEL : COL_WIN.TAR_SEL;
+  selected.FillColor(QBColor(CUR_TOOL == SPOIT ? 12 : 11));
+  other.FillColor(0x8000000F);
+}
+
 void COL_UPDATE() {
   for (int32_t* component : {&CUR_R, &CUR_G, &CUR_B}) *component = std::clamp(*component, 0, 255);
   COL_DRAW_BARS(CUR_R, CUR_G, CUR_B);

@@ -59,7 +59,7 @@ void Form_Load() {
   }
   ADD_WIN.Caption(APP_TITLE);
   centre_over_main(ADD_WIN);
-  SET_WIN.Enabled(false);
+  SET_WIN.hold();
   AIP_READ(name);
   ADD_WIN.Label1.Caption(AIP_NAME);
   ADD_WIN.List1.Clear();
@@ -68,7 +68,7 @@ void Form_Load() {
 }
 
 void Form_Unload(int& /*Cancel*/) {
-  SET_WIN.Enabled(true);
+  SET_WIN.release();
   SET_WIN.SetFocus();
 }
 

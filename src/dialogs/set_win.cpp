@@ -5,11 +5,11 @@
 #include <algorithm>
 
 #include "addin/addin.h"
-#include "colour/col_win.h"
 #include "dialogs/add_win.h"
 #include "dialogs/dialogs.h"
 #include "dialogs/set_table.h"
 #include "frame/p_win.h"
+#include "frame/usr_sub.h"
 #include "palette/cmd_win.h"
 #include "palette/palette.h"
 #include "persist/persist.h"
@@ -30,12 +30,6 @@ namespace {
 
 std::string registry() { return APP_PATH + "/KISO.AIN"; }
 std::string registry_copy() { return APP_PATH + "/KISOAIN.TMP"; }
-
-void enable_others(bool on) {
-  P_WIN.Enabled(on);
-  CMD_WIN.Enabled(on);
-  COL_WIN.Enabled(on);
-}
 
 void bring_page_to_front(int page) {
   SET_WIN.Picture1(page).ToFront();
@@ -153,7 +147,7 @@ void Form_Load() {
   SET_WIN.answered = false;
   SET_WIN.Caption(APP_TITLE);
   centre_over_main(SET_WIN);
-  enable_others(false);
+  hold_editor();
   fill();
   bring_page_to_front(0);
   text::FileCopy(registry(), registry_copy());
@@ -167,7 +161,7 @@ void Form_Load() {
 // registry stays and the clock goes on.
 void Form_Unload(int& /*Cancel*/) {
   if (!SET_WIN.answered) take_back();
-  enable_others(true);
+  release_editor();
   CMD_WIN.SetFocus();
 }
 

@@ -67,30 +67,12 @@ void design_p_win() {
 }  // namespace
 
 PWin::PWin() : Window("P_WIN", Border::sizable, Scale::pixels, design_p_win) {
-  Form_Load = p_win::Form_Load;
   Form_Resize = p_win::Form_Resize;
-  Form_QueryUnload = p_win::Form_QueryUnload;
-  Form_Unload = p_win::Form_Unload;
   X_SC.Change = p_win::X_SC_Change;
   Y_SC.Change = p_win::Y_SC_Change;
   RB.Click = p_win::RB_Click;
-  DRAW.MouseDown = p_win::DRAW_MouseDown;
-  DRAW.MouseMove = p_win::DRAW_MouseMove;
-  DRAW.MouseUp = p_win::DRAW_MouseUp;
-  DRAW.DblClick = p_win::DRAW_DblClick;
-  DRAW.second_press_is_press = p_win::tool_wants_each_press;
-  DRAW.KeyDown = p_win::DRAW_KeyDown;
-  DRAW.KeyPress = p_win::DRAW_KeyPress;
-  DRAW.KeyUp = p_win::DRAW_KeyUp;
   DRAW.Paint = p_win::DRAW_Paint;
   DRAW.Resize = p_win::DRAW_Resize;
-  DRAW.Wheel = p_win::DRAW_Wheel;
-  DMY.MouseDown = p_win::DMY_MouseDown;
-  DMY.KeyPress = p_win::DMY_KeyPress;
-  DMY.Wheel = p_win::DRAW_Wheel;
-  Timer1.Tick = p_win::Timer1_Timer;
-  Timer2.Tick = p_win::Timer2_Timer;
-  Form_Drop = p_win::DROP_WNDPROC;
 }
 
 }  // namespace kiso

@@ -10,7 +10,11 @@ namespace kiso {
 // --- the palettes and the caption
 void PAL_SHOW();  // nothing while P_WIN loads or when the palettes are not wanted
 void PAL_HIDE();
-void SHOW_NAME(const std::string& name);  // the main window's caption tells what is edited
+void SHOW_NAME(const std::string& name);   // the main window's caption tells what is edited
+void SET_CURSOR(const std::string& word);  // "LUPE", "SPOIT", "PAINT", "WAIT"; any other word is the arrow
+// The main window and the palettes take no events, until as many calls of the second as of the first.
+void hold_editor();
+void release_editor();
 
 // --- view. Coordinates are DRAW pixels unless told otherwise.
 void VIEW_FIT();     // recomputes the view from the window's size and repaints
@@ -27,11 +31,15 @@ void DOT_SNAP(double x, double y, int n, int& left, int& top, int& right, int& b
 void DROP_STROKE();  // the uncommitted stroke goes, DRAW shows PIC
 void UNDO_SWAP();    // the picture and the snapshot change places
 
-// --- of the rooms above
-void TOOL_CHANGED();                       // after CUR_TOOL has been set from a window
-const char* TOOL_STATUS(int tool);         // the text that the status line shows for that tool
-void SET_CURSOR(const std::string& word);  // "LUPE", "SPOIT", "PAINT", "WAIT"; any other word is the arrow
-void UNDO_BUTTON(int n);                   // 0 or 1 enables the UNDO button, any other number disables it
+// --- clipboard
+void CLIP_CHECK(int& result);  // 1: there is no picture on the clipboard, the user has been told
+// Takes the clipboard's picture; false if there is none, the user has been told.
+bool clipboard_picture(Surface& picture);
+
+// --- of the rooms above (frame/rooms.h)
+void TOOL_CHANGED();                // after CUR_TOOL has been set from a window
+const char* TOOL_STATUS(int tool);  // the text that the status line shows for that tool
+void UNDO_BUTTON(int n);            // 0 or 1 enables the UNDO button, any other number disables it
 
 // A packed pixel as its components.
 inline void unpack_colour(Colour pixel, int32_t& r, int32_t& g, int32_t& b) {

@@ -1,14 +1,12 @@
 #include "palette/cmd_click.h"
 
-#include "dialogs/set_win.h"
+#include <array>
+
 #include "frame/p_win.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
-#include "palette/file_commands.h"
 #include "palette/palette.h"
-#include "persist/persist.h"
 #include "platform/text/text.h"
-#include "windows/windows.h"
 
 namespace kiso {
 
@@ -26,15 +24,28 @@ void PAL_SET_PRESSED(Group group, int index) {
 
 namespace {
 
-// Groups whose buttons are pressed only while their command runs. The command may end in the palette being unloaded.
-void press_while(Group group, int index, void (*command)()) {
-  show_button(group, index, true);
-  group_of(group).button(index).Refresh();
-  command();
-  if (CMD_WIN.Loaded()) show_button(group, index, false);
-}
+using Command = void (*)();
 
 void nothing() {}
+
+constexpr size_t GROUPS = 10, MOST_BUTTONS = 36;
+constinit auto commands = [] {
+  std::array<std::array<Command, MOST_BUTTONS>, GROUPS> empty{};
+  for (auto& group : empty) group.fill(nothing);
+  return empty;
+}();
+
+Command& command_of(Group group, int index) {
+  return commands.at(static_cast<size_t>(group)).at(static_cast<size_t>(index));
+}
+
+// Groups whose buttons are pressed only while their command runs. The command may end in the palette being unloaded.
+void press_while(Group group, int index) {
+  show_button(group, index, true);
+  group_of(group).button(index).Refresh();
+  command_of(group, index)();
+  if (CMD_WIN.Loaded()) show_button(group, index, false);
+}
 
 int16_t tool_of(const PalButton& button) { return button.chooses ? button.chooses() : button.tool; }
 
@@ -55,6 +66,8 @@ void open_first_expansion_panel() {
 }
 
 }  // namespace
+
+void button_starts(Group group, int index, void (*command)()) { command_of(group, index) = command; }
 
 int16_t line_tool() { return LINE_MODE > 0 ? 29 : 3; }
 int16_t expanded_line_tool() { return LINE_MODE > 0 ? 11029 : 11010; }
@@ -106,7 +119,7 @@ void FILE_B_MouseDown(int /*Index*/, int Button, int /*Shift*/, float /*X*/, flo
 void CMD_B_Click(int Index) {
   const PalButton& button = row_of(Group::CMD_B, Index);
   if (button.tool == NO_TOOL) {
-    press_while(Group::CMD_B, Index, nothing);
+    press_while(Group::CMD_B, Index);
     return;
   }
   PAL_SET_PRESSED(Group::EDIT_B, -1);
@@ -123,19 +136,10 @@ void EDIT_B_Click(int Index) {
   choose(row_of(Group::EDIT_B, Index).tool);
 }
 
-void FILE_B_Click(int Index) { press_while(Group::FILE_B, Index, FILE_COMMANDS[Index]); }
-
-void EFCT_B_Click(int Index) { press_while(Group::EFCT_B, Index, nothing); }
-
-void SYS_B_Click(int Index) {
-  constexpr void (*COMMANDS[])() = {[] { P_WIN.Unload(); }, ABOUT_SHOW, [] { SET_WIN.Show(&P_WIN); }, nothing, nothing};
-  press_while(Group::SYS_B, Index, COMMANDS[Index]);
-}
-
-void OPT_W_B_Click(int Index) {
-  constexpr void (*COMMANDS[])() = {nothing, HELP_SHOW, nothing};
-  press_while(Group::OPT_W_B, Index, COMMANDS[Index]);
-}
+void FILE_B_Click(int Index) { press_while(Group::FILE_B, Index); }
+void EFCT_B_Click(int Index) { press_while(Group::EFCT_B, Index); }
+void SYS_B_Click(int Index) { press_while(Group::SYS_B, Index); }
+void OPT_W_B_Click(int Index) { press_while(Group::OPT_W_B, Index); }
 
 void EXP_M1_Click(int Index) {
   const PalButton& button = row_of(Group::EXP_M1, Index);

@@ -3,7 +3,7 @@
 
 #include "addin/addin.h"
 #include "colour/col_win.h"
-#include "frame/usr_sub.h"
+#include "frame/rooms.h"
 #include "palette/cmd_click.h"
 #include "palette/palette.h"
 #include "palette/palette_table.h"
@@ -138,6 +138,10 @@ void SCANNER_BUTTON() {
   CMD_WIN.FILE_B(7).Visible(TWSC_ON == 1);
 }
 
-void UNDO_BUTTON(int n) { CMD_WIN.UNDO.Enabled(n == 0 || n == 1); }
+void wire_palette() {
+  static constexpr Window* PALETTES[] = {&CMD_WIN, &COL_WIN};
+  ROOMS.undo_button = [](int n) { CMD_WIN.UNDO.Enabled(n == 0 || n == 1); };
+  ROOMS.side_windows = PALETTES;
+}
 
 }  // namespace kiso

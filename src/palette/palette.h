@@ -5,6 +5,11 @@
 
 namespace kiso {
 
+void wire_palette();  // the cells of ROOMS that are the palettes'
+// What a button without a tool starts. One that is given nothing starts nothing.
+enum class Group : uint8_t;  // palette_table.h
+void button_starts(Group group, int index, void (*command)());
+
 void SCANNER_BUTTON();  // FILE_B(7) is there as long as a scanner is installed
 
 // The parameter windows.

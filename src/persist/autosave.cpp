@@ -2,7 +2,7 @@
 // with none of the care of a save by hand: no add-in runs, a failure is silent, and nothing of the picture's name
 // changes.
 #include "frame/p_win.h"
-#include "frame/p_win_events.h"
+#include "persist/p_win_events.h"
 #include "platform/error.h"
 #include "platform/text/paths.h"
 #include "windows/wait_win.h"

@@ -4,7 +4,6 @@
 #include "persist/d_form.h"
 #include "persist/persist.h"
 #include "platform/error.h"
-#include "platform/forms/clipboard.h"
 #include "platform/text/files.h"
 #include "platform/text/paths.h"
 #include "platform/text/text.h"
@@ -14,7 +13,7 @@ namespace kiso {
 namespace {
 
 constexpr int HIDE_READ_ONLY = 4, ANY_ENDING = 1024;
-constexpr int EXCLAMATION = 48, CANCEL = 2, YES = 6;
+constexpr int CANCEL = 2, YES = 6;
 
 CommonDialog& dialog = D_FORM.CommonDialog1;
 
@@ -114,21 +113,6 @@ bool ask_save_name(std::string& name) {
 
 void CONFIRM_REPLACE(int& result) {
   result = MsgBox("現在表示している画像に上書きされます\rよろしいですか?", 292, APP_TITLE) == YES ? 0 : 1;
-}
-
-namespace {
-void tell_no_picture() { MsgBox("クリップボードには絵が入っていません。", EXCLAMATION, APP_TITLE); }
-}  // namespace
-
-void CLIP_CHECK(int& result) {
-  result = Clipboard::GetFormat(Clipboard::BITMAP) || Clipboard::GetFormat(Clipboard::DIB) ? 0 : 1;
-  if (result != 0) tell_no_picture();
-}
-
-bool clipboard_picture(Surface& picture) {
-  const bool there = ignore_errors([&] { picture = Clipboard::GetData(); }) == 0;
-  if (!there) tell_no_picture();
-  return there;
 }
 
 }  // namespace kiso

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "frame/p_win.h"
-#include "frame/p_win_events.h"
+#include "persist/p_win_events.h"
 #include "persist/persist.h"
 #include "platform/text/text.h"
 

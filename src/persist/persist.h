@@ -7,6 +7,8 @@
 
 namespace kiso {
 
+void wire_persist();  // the clock of the auto save and the drop of files on the main window
+
 // result: 0 loaded, 1 no such add-in, -1 failed, -2 unsupported extension, -5 file not found.
 void LOAD_PICTURE(const std::string& name, int& result);
 // Loads what the user has chosen. The name stays with PIC_FILE and the caption also if it can not be loaded.
@@ -25,9 +27,6 @@ void EXE_DIALOG(int& result, std::string& name);
 // SAVE_DIALOG, and the question before a file is overwritten. False if the user cancels either.
 bool ask_save_name(std::string& name);
 void CONFIRM_REPLACE(int& result);  // 1: the picture is to stay
-void CLIP_CHECK(int& result);       // 1: there is no picture on the clipboard, the user has been told
-// Takes the clipboard's picture; false if there is none, the user has been told.
-bool clipboard_picture(Surface& picture);
 void READ_CNF();
 void WRITE_CNF();
 void READ_CDI();

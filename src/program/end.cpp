@@ -1,13 +1,13 @@
 // The end of the program: the end dialog and the shutdown.
 #include "colour/col_win.h"
 #include "frame/p_win.h"
-#include "frame/p_win_events.h"
 #include "frame/usr_sub.h"
 #include "palette/cmd_win.h"
 #include "palette/palette.h"
 #include "persist/d_form.h"
 #include "persist/persist.h"
 #include "program/program.h"
+#include "program/wiring.h"
 
 namespace kiso {
 

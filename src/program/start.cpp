@@ -2,13 +2,13 @@
 #include "addin/addin.h"
 #include "colour/col_win.h"
 #include "frame/p_win.h"
-#include "frame/p_win_events.h"
 #include "frame/usr_sub.h"
 #include "palette/cmd_win.h"
 #include "persist/d_form.h"
 #include "persist/persist.h"
 #include "platform/text/program_directory.h"
 #include "program/program.h"
+#include "program/wiring.h"
 #include "windows/splash_win.h"
 
 namespace kiso {
@@ -90,21 +90,9 @@ void place_palettes() {
 
 void START_PROGRAM(const std::string& command_line) {
   command_line_picture = command_line;
+  wire_rooms();
   P_WIN.Load();
 }
-
-void PAL_SHOW() {
-  if (LOADING_FLAG == 1 || PAL_SHOWN != 1) return;
-  CMD_WIN.Show(&P_WIN);
-  COL_WIN.Show(&P_WIN);
-}
-
-void PAL_HIDE() {
-  CMD_WIN.Hide();
-  COL_WIN.Hide();
-}
-
-void SHOW_NAME(const std::string& name) { P_WIN.Caption(APP_TITLE + ":" + name); }
 
 void p_win::Form_Load() {
   LOADING_FLAG = 1;

@@ -2,10 +2,10 @@
 #include "colour/col_win.h"
 #include "colour/colour.h"
 #include "frame/p_win.h"
-#include "frame/p_win_events.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
 #include "palette/cmd_win.h"
+#include "tools/p_win_events.h"
 
 namespace kiso {
 

@@ -1,9 +1,9 @@
 // The pointer pipeline: what all tools have in common from the press to the commit.
 #include "frame/p_win.h"
-#include "frame/p_win_events.h"
 #include "frame/preview.h"
 #include "frame/state_families.h"
 #include "frame/usr_sub.h"
+#include "tools/p_win_events.h"
 #include "tools/tool_table.h"
 #include "tools/tools.h"
 

@@ -50,4 +50,6 @@ std::span<const ToolRow> all_tools();  // by number
 // The row of a number; a number that is no tool has a row in which nothing happens.
 const ToolRow& tool_row(int number);
 
+void show_tool();  // what TOOL_CHANGED shows of CUR_TOOL: marks, cursor, what floats, parameter windows, status text
+
 }  // namespace kiso

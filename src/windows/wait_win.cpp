@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "colour/col_win.h"
 #include "frame/p_win.h"
-#include "palette/cmd_win.h"
 #include "windows/windows.h"
 
 namespace kiso {
@@ -25,21 +23,15 @@ void design() {
   WAIT_WIN.BAR.design(12, 28, 224, 18, &WAIT_WIN.FRAME);
 }
 
-void enable_others(bool enabled) {
-  P_WIN.Enabled(enabled);
-  CMD_WIN.Enabled(enabled);
-  COL_WIN.Enabled(enabled);
-}
-
 void Form_Load() {
   bar_filled = -1;
   WAIT_WIN.Caption(APP_TITLE + "実行中");
   WAIT_WIN.Move((screen_width() - WAIT_WIN.Width()) / 2, (screen_height() - WAIT_WIN.Height()) / 2);
   WAIT_WIN.Refresh();
-  enable_others(false);
+  hold_editor();
 }
 
-void Form_Unload(int& /*Cancel*/) { enable_others(true); }
+void Form_Unload(int& /*Cancel*/) { release_editor(); }
 
 }  // namespace
 }  // namespace wait_win

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "addin/addin.h"
-#include "persist/program_dir.h"
+#include "program_dir.h"
 #include "stage.h"
 
 namespace kiso {

@@ -7,7 +7,7 @@
 #include "addin/addin.h"
 #include "dialogs/add_win.h"
 #include "dialogs/set_win.h"
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace kiso {
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "palette/param_win.h"
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace kiso {
 

@@ -7,8 +7,8 @@
 #include <fstream>
 
 #include "addin/addin.h"
+#include "palette_stage.h"
 #include "persist/persist.h"
-#include "stage.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // The auto save: when it runs, where it writes, and all that it leaves alone.
 #include <fstream>
 
+#include "palette_stage.h"
 #include "persist/persist.h"
 #include "platform/text/text.h"
-#include "stage.h"
 #include "windows/wait_win.h"
 
 namespace {

@@ -1,10 +1,10 @@
 // What the file dialogs are given and what they give back, and the questions before a picture is replaced.
 #include "addin/addin.h"
+#include "palette_stage.h"
 #include "persist/d_form.h"
 #include "persist/persist.h"
 #include "platform/error.h"
 #include "platform/forms/clipboard.h"
-#include "stage.h"
 
 namespace {
 

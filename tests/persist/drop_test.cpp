@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <csignal>
 #include <fstream>
 
+#include "palette_stage.h"
 #include "persist/persist.h"
-#include "stage.h"
 
 namespace {
 

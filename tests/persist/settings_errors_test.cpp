@@ -1,11 +1,11 @@
 // Settings that can not be read or written: a numbered error, and nothing is lost.
 #include "persist/persist.h"
-#include "persist/program_dir.h"
+#include "persist/persist_dir.h"
 
 namespace kiso {
 namespace {
 
-using SettingsErrors = ProgramDir;
+using SettingsErrors = PersistDir;
 
 TEST_F(SettingsErrors, AMissingFileIsAnErrorThatLeavesTheOthers) {
   EXPECT_EQ(harmless_error_of(READ_CNF), 53);

@@ -1,10 +1,10 @@
 #include "persist/persist.h"
-#include "persist/program_dir.h"
+#include "persist/persist_dir.h"
 
 namespace kiso {
 namespace {
 
-struct Settings : ProgramDir {
+struct Settings : PersistDir {
   static void read(std::initializer_list<const char*> texts) {
     put("KISO.CNF", lines(texts));
     READ_CNF();

@@ -2,13 +2,13 @@
 #include <sstream>
 
 #include "persist/persist.h"
-#include "persist/program_dir.h"
+#include "persist/persist_dir.h"
 #include "platform/text/encoding.h"
 
 namespace kiso {
 namespace {
 
-using Templates = ProgramDir;
+using Templates = PersistDir;
 
 TEST_F(Templates, FirstStartCopiesTheSettingsByteForByte) {
   put("DEFAULT.CNF", shipped("DEFAULT.CNF"));

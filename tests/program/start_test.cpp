@@ -1,7 +1,7 @@
 // Start and end of the program.
 #include <fstream>
 
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 

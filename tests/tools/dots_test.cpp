@@ -1,5 +1,5 @@
 // Pset and FreeLine: the two plain tools of the pipeline.
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 

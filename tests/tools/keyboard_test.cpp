@@ -1,5 +1,5 @@
 // The keys of the picture.
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 long allocations = 0;  // counted by the operators below, which the compiler must not look into

@@ -1,5 +1,5 @@
 // The pointer pipeline: what all tools have in common.
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 

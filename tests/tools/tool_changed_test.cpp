@@ -1,5 +1,5 @@
 // What a change of tool does to the tool before.
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace stage {
 

@@ -57,7 +57,7 @@ void Window::drop() {
   loaded_ = visible_ = was_shown_ = false;
   enabled_ = true;
   owner_ = nullptr;
-  window_state_ = mouse_pointer_ = 0;
+  window_state_ = mouse_pointer_ = held_ = 0;
   mouse_icon_ = nullptr;
   pending_ = 0;
 }
@@ -148,6 +148,16 @@ void Window::state_changed(int window_state) {
 void Window::Enabled(bool v) {
   touched().enabled_ = v;
   note(ENABLED);
+}
+
+void Window::hold() {
+  ++held_;
+  Enabled(false);
+}
+
+void Window::release() {
+  if (held_ == 0 || --held_ != 0) return;
+  Enabled(true);
 }
 
 void Window::MousePointer(int v) {

@@ -197,6 +197,9 @@ class Window {
   bool Visible() const { return touched().visible_; }
   bool Enabled() const { return touched().enabled_; }
   void Enabled(bool v);
+  // Disabled until as many calls of release as of hold: what an inner dialog gives back is still held by an outer one.
+  void hold();
+  void release();
   int MousePointer() const { return touched().mouse_pointer_; }
   void MousePointer(int v);
   bool TakesFiles() const { return takes_files_; }  // that are dropped on it; else a drop is refused
@@ -262,6 +265,7 @@ class Window {
   bool outer_given_ = false;  // the program has asked for a size with its frame
   std::string caption_;
   int window_state_ = 0;
+  int held_ = 0;
   bool loaded_ = false, visible_ = false, enabled_ = true, was_shown_ = false;
   int mouse_pointer_ = 0;
   const char* mouse_icon_ = nullptr;

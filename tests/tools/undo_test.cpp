@@ -1,5 +1,5 @@
 // One level of undo, which is a swap and belongs to one place of the view.
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 

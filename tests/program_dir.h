@@ -1,4 +1,4 @@
-// A program directory of the test's own, and windows that load without starting the program.
+// A program directory of the test's own, and the main window, which loads without starting the program.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,10 +10,7 @@
 #include <map>
 #include <string>
 
-#include "colour/col_win.h"
 #include "frame/p_win.h"
-#include "frame/usr_sub.h"
-#include "palette/cmd_win.h"
 
 namespace kiso {
 
@@ -34,11 +31,7 @@ struct ProgramDir : testing::Test {
   ProgramDir() {
     char name[] = "/tmp/kiso_persist_XXXXXX";
     APP_PATH = mkdtemp(name);
-    for (Window* w : {static_cast<Window*>(&P_WIN), static_cast<Window*>(&CMD_WIN), static_cast<Window*>(&COL_WIN)}) {
-      w->Form_Load = [] {};
-      w->Form_Resize = [] {};
-      w->Load();
-    }
+    load_quietly(P_WIN);
   }
   ~ProgramDir() override {
     be_oneself();
@@ -79,6 +72,13 @@ struct ProgramDir : testing::Test {
     std::filesystem::permissions(APP_PATH + "/" + name, std::filesystem::perms::all);
     EXPECT_EQ(all_files(), before);
     return error;
+  }
+
+ protected:
+  static void load_quietly(Window& window) {
+    window.Form_Load = [] {};
+    window.Form_Resize = [] {};
+    window.Load();
   }
 
  private:

@@ -1,9 +1,13 @@
-#include "palette/file_commands.h"
-
+// What the buttons of the palette start.
+#include "dialogs/set_win.h"
 #include "frame/p_win.h"
 #include "frame/usr_sub.h"
+#include "palette/palette.h"
+#include "palette/palette_table.h"
 #include "persist/persist.h"
 #include "platform/forms/clipboard.h"
+#include "program/wiring.h"
+#include "windows/windows.h"
 
 namespace kiso {
 
@@ -66,12 +70,26 @@ void new_picture() {
   SHOW_FROM_ORIGIN();
 }
 
-void nothing() {}
+constexpr struct {
+  Group group;
+  int index;
+  void (*run)();
+} COMMANDS[] = {
+    {Group::FILE_B, 0, load},
+    {Group::FILE_B, 1, save},
+    {Group::FILE_B, 2, load_from_clipboard},
+    {Group::FILE_B, 3, save_to_clipboard},
+    {Group::FILE_B, 5, new_picture},
+    {Group::SYS_B, 0, [] { P_WIN.Unload(); }},
+    {Group::SYS_B, 1, ABOUT_SHOW},
+    {Group::SYS_B, 2, [] { SET_WIN.Show(&P_WIN); }},
+    {Group::OPT_W_B, 1, HELP_SHOW},
+};
 
 }  // namespace
 
-void (*const FILE_COMMANDS[8])() = {
-    load, save, load_from_clipboard, save_to_clipboard, nothing, new_picture, nothing, nothing,
-};
+void wire_commands() {
+  for (const auto& row : COMMANDS) button_starts(row.group, row.index, row.run);
+}
 
 }  // namespace kiso

@@ -1,7 +1,7 @@
 // What each cause does to a tool that has come some clicks far.
 #include "frame/state_families.h"
 
-#include "stage.h"
+#include "palette_stage.h"
 
 namespace {
 
