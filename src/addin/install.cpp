@@ -21,8 +21,6 @@ std::string AIP_SPOP;
 
 namespace {
 
-constexpr int YES = 6;
-
 // As ADD_WIN's fields are when it opens.
 void forget_offer() {
   AIP_SCAN = AIP_SELECT = AIP_KIND = AIP_FR_CNT = AIP_FW_CNT = AIP_HAS_SPOP = 0;
@@ -106,7 +104,7 @@ int row_for(const std::string& ext, const FileTable& table) {
   for (int i = 0; i < table.count; ++i) {
     if (table.ext(i) != ext) continue;
     const std::string question = table.known + ext + "は\r既に指定されています置き換えますか?";
-    return MsgBox(question, 292, APP_TITLE) == YES ? i : -1;
+    return MsgBox(question, YES_NO | QUESTION | SECOND_BUTTON, APP_TITLE) == YES ? i : -1;
   }
   if (table.count < RECORD_ROWS) return table.count++;
   MsgBox(std::string(table.full) + "\r" + table.dropped);

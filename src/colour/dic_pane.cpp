@@ -36,7 +36,7 @@ void Combo1_KeyPress(int KeyAscii) {
   const std::string name = COL_WIN.Combo1.Text();
   for (int i = 0; i <= 9; ++i) {
     if (name != DICT_NAME(i)) continue;
-    MsgBox("既にその名前は使われています", 0, APP_TITLE);
+    MsgBox("既にその名前は使われています", OK_ONLY, APP_TITLE);
     return;
   }
   COL_WIN.Combo1.RemoveItem(DICT_CUR);

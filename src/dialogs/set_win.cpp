@@ -104,8 +104,9 @@ void empty_rows_of(const std::string& id) {
 void Command7_Click() {
   const int i = SET_WIN.List2.ListIndex();
   if (i < 0 || i > AD_CNT - 1) return;
-  constexpr int YES = 6;
-  if (MsgBox(AD_NAME(i) + "\rを削除いたします、本当によろしいですか?", 292, APP_TITLE) != YES) return;
+  if (MsgBox(AD_NAME(i) + "\rを削除いたします、本当によろしいですか?", YES_NO | QUESTION | SECOND_BUTTON, APP_TITLE) !=
+      YES)
+    return;
   const std::string id = AD_ID(i);
   if (TW_ID(0) == id) TW_ID(0) = TW_CMD(0) = "", TWSL_ON = 0;
   if (TW_ID(1) == id) TW_ID(1) = TW_CMD(1) = "", TWSC_ON = 0;

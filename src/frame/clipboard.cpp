@@ -8,8 +8,6 @@ namespace kiso {
 
 namespace {
 
-constexpr int EXCLAMATION = 48;
-
 void tell_no_picture() { MsgBox("クリップボードには絵が入っていません。", EXCLAMATION, APP_TITLE); }
 
 }  // namespace

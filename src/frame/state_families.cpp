@@ -49,7 +49,7 @@ void fall_back(FallCause cause) {
     if (family.hides_work) WORK.Visible(false);
     if (family.gives_work_its_pen) {
       WORK.DrawWidth(1);
-      WORK.DrawMode(13);
+      WORK.DrawMode(COPY);
     }
     p_win::show_info(" ");
     return;

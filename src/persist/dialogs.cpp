@@ -13,7 +13,6 @@ namespace kiso {
 namespace {
 
 constexpr int HIDE_READ_ONLY = 4, ANY_ENDING = 1024;
-constexpr int CANCEL = 2, YES = 6;
 
 CommonDialog& dialog = D_FORM.CommonDialog1;
 
@@ -107,12 +106,15 @@ bool ask_save_name(std::string& name) {
   int result = 0;
   SAVE_DIALOG(result, name);
   if (name.empty() || result != 0) return false;
-  return text::Dir(name).empty() ||
-         MsgBox(name + "\rファイルが既に存在しています上書きしますか?", 289, APP_TITLE) != CANCEL;
+  return text::Dir(name).empty() || MsgBox(name + "\rファイルが既に存在しています上書きしますか?",
+                                           OK_CANCEL | QUESTION | SECOND_BUTTON, APP_TITLE) != CANCEL;
 }
 
 void CONFIRM_REPLACE(int& result) {
-  result = MsgBox("現在表示している画像に上書きされます\rよろしいですか?", 292, APP_TITLE) == YES ? 0 : 1;
+  result = MsgBox("現在表示している画像に上書きされます\rよろしいですか?", YES_NO | QUESTION | SECOND_BUTTON,
+                  APP_TITLE) == YES
+               ? 0
+               : 1;
 }
 
 }  // namespace kiso

@@ -11,7 +11,6 @@ namespace kiso {
 
 namespace {
 
-constexpr int NO = 7;
 constexpr size_t NAME_BYTES = 126;  // a longer name is cut
 
 constinit bool dropping = false;
@@ -34,7 +33,8 @@ void p_win::DROP_WNDPROC(const std::vector<std::string>& files) {
   if (dropping || files.empty() || !P_WIN.TakesFiles()) return;
   dropping = true;
   const std::string name = cut(files[0]);
-  if (MsgBox(name + "がドロップされました\r現在の画像は保存されませんがそれでもよろしいですか?", 36, APP_TITLE) != NO) {
+  if (MsgBox(name + "がドロップされました\r現在の画像は保存されませんがそれでもよろしいですか?", YES_NO | QUESTION,
+             APP_TITLE) != NO) {
     LOAD_CHOSEN(name);
   }
   dropping = false;

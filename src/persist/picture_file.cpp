@@ -14,7 +14,7 @@ namespace kiso {
 
 namespace {
 
-constexpr int EXCLAMATION = 48, FILE_NOT_FOUND = 53;
+constexpr int FILE_NOT_FOUND = 53;
 
 // BMP and ICO are read and written without help. The name alone decides here, whatever stands in front of the ending.
 bool ends_as_own_kind(const std::string& name) {

@@ -12,14 +12,17 @@ struct Answer {
   int number;
   const char* word;
 };
-constexpr Answer ANSWERS[] = {{1, "ok"}, {2, "cancel"}, {6, "yes"}, {7, "no"}};
+constexpr Answer ANSWERS[] = {{forms::OK, "ok"}, {forms::CANCEL, "cancel"}, {forms::YES, "yes"}, {forms::NO, "no"}};
 
 // The buttons of a box by the low bits of its style.
 struct Buttons {
   int style;
   std::vector<int> answers;
 };
-const Buttons BUTTONS[] = {{0, {1}}, {1, {1, 2}}, {3, {6, 7, 2}}, {4, {6, 7}}};
+const Buttons BUTTONS[] = {{forms::OK_ONLY, {forms::OK}},
+                           {forms::OK_CANCEL, {forms::OK, forms::CANCEL}},
+                           {forms::YES_NO_CANCEL, {forms::YES, forms::NO, forms::CANCEL}},
+                           {forms::YES_NO, {forms::YES, forms::NO}}};
 
 bool has_button(int style, int answer) {
   for (const Buttons& row : BUTTONS) {
@@ -39,7 +42,7 @@ const char* word_of(int answer) {
 }
 
 int next_answer(int style) {
-  if ((style & 7) == 0) return 1;
+  if ((style & 7) == forms::OK_ONLY) return forms::OK;
   if (player.answers.empty()) {
     player.failure = "a box without an answer in the queue";
     throw forms::ProgramEnd{};

@@ -115,7 +115,7 @@ struct AnswerWord {
   const char* word;
   int number;
 };
-constexpr AnswerWord ANSWER_WORDS[] = {{"ok", 1}, {"cancel", 2}, {"yes", 6}, {"no", 7}};
+constexpr AnswerWord ANSWER_WORDS[] = {{"ok", OK}, {"cancel", CANCEL}, {"yes", YES}, {"no", NO}};
 
 void answer(const Args& args) {
   for (const std::string& arg : args) {

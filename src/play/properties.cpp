@@ -51,10 +51,10 @@ constexpr Reader<PictureBox> OF_PICTURE[] = {
     READS(PictureBox, FillStyle),
     READS(PictureBox, AutoRedraw),
     READS(PictureBox, AutoSize),
-    READS_AS(PictureBox, FontName, it.font.name),
-    READS_AS(PictureBox, FontSize, it.font.size),
-    READS_AS(PictureBox, FontBold, it.font.bold),
-    READS_AS(PictureBox, FontItalic, it.font.italic),
+    READS_AS(PictureBox, FontName, it.font().name),
+    READS_AS(PictureBox, FontSize, it.font().size),
+    READS_AS(PictureBox, FontBold, it.font().bold),
+    READS_AS(PictureBox, FontItalic, it.font().italic),
 };
 constexpr Reader<ImageBox> OF_IMAGE[] = {
     READS_AS(ImageBox, Cell, number_text(it.cell_x()) + " " + number_text(it.cell_y())),

@@ -13,9 +13,10 @@ namespace kiso {
 
 namespace {
 
-constexpr int CANCEL = 2, YES = 6;
-
-int ask_to_end() { return MsgBox("Kisoを終了します\rファイルを保存せずに終了しますか ?\r", 547, APP_TITLE + "終了"); }
+int ask_to_end() {
+  return MsgBox("Kisoを終了します\rファイルを保存せずに終了しますか ?\r", YES_NO_CANCEL | QUESTION | THIRD_BUTTON,
+                APP_TITLE + "終了");
+}
 
 // True if the picture has been saved.
 bool save_before_end() {

@@ -22,8 +22,8 @@ void ask_for_deep_display() {
   const int answer = MsgBox(
       "Windowsの色数が足りません\r本Editorはカラーパレットには対応しませんので\r"
       "16Bit/24Bit/ 32Bit Colorでご利用ください。\rKisoを起動させますか ?",
-      52, APP_TITLE);
-  if (answer == 7) End();
+      YES_NO | EXCLAMATION, APP_TITLE);
+  if (answer == NO) End();
 }
 
 void tell_of_folder_of_the_run() {
@@ -63,7 +63,8 @@ void start_values() {
 bool wants_last_picture() {
   if (RELOAD_MODE == 1) return true;
   if (RELOAD_MODE != 2 || PIC_FILE.empty() || !command_line_picture.empty()) return false;
-  if (MsgBox("前回編集していたファイルを読み込みますか?\rファイル名 :" + PIC_FILE + "\r", 36, APP_TITLE) == 6)
+  if (MsgBox("前回編集していたファイルを読み込みますか?\rファイル名 :" + PIC_FILE + "\r", YES_NO | QUESTION,
+             APP_TITLE) == YES)
     return true;
   PIC_FILE = "";
   return false;

@@ -11,8 +11,6 @@ namespace kiso {
 
 namespace {
 
-constexpr int COPY = 13;
-
 // WORK stands over that part of DRAW and holds its pixels. What lies outside of DRAW is white.
 void lift(int left, int top, int w, int h) {
   WORK.Move(left, top, w, h);

@@ -13,7 +13,6 @@ namespace kiso {
 
 namespace {
 
-constexpr int COPY = 13, XOR = 7;
 constexpr int SOLID = 0, CLEAR = 1, HATCHED = 7;  // fill styles
 
 struct Box {

@@ -8,7 +8,6 @@ namespace kiso {
 
 namespace {
 
-constexpr int COPY = 13, XOR = 7;
 constexpr int LAST_PLACE = 255;  // a chain with more vertices than this takes no further one
 
 Point at(float X, float Y) { return {to_int32(X), to_int32(Y)}; }

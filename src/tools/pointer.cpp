@@ -60,7 +60,7 @@ void left_press(float X, float Y) {
   COL_B = RGB(DES_R, DES_G, DES_B);
   COL_XOR = WHITE;
   DRAW.DrawWidth(PEN_SIZE);
-  DRAW.DrawMode(13);
+  DRAW.DrawMode(COPY);
   DRAW.FillStyle(1);
   if (!tool.keeps_start) {
     PT_START(1) = PT_LAST(1) = to_int32(X);

@@ -13,7 +13,7 @@ constexpr Colour BLACK = 0;
 
 // The polygon in one colour, all round it in the other.
 void silhouette(PictureBox& box, Colour polygon, Colour rest) {
-  box.DrawMode(13);
+  box.DrawMode(COPY);
   box.DrawWidth(1);
   box.DrawStyle(0);
   box.FillStyle(0);

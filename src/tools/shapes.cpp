@@ -9,8 +9,6 @@ namespace kiso {
 
 namespace {
 
-constexpr int COPY = 13, XOR = 7;
-
 void follow(float X, float Y) {
   PT_LAST(1) = to_int32(X);
   PT_LAST(2) = to_int32(Y);

@@ -13,15 +13,9 @@ void TextBox::Text(std::string v) {
   Change.fire(index);
 }
 
-void TextBox::font(Font f) {
-  touched(), font_ = std::move(f);
-  note(LOOK);
-}
-
 void TextBox::back_to_design() {
   Control::back_to_design();
   text_.clear();
-  font_ = Font{};
   multi_line = read_only = false;
 }
 
@@ -106,14 +100,8 @@ void OptionButton::Value(int v) {
   Click.fire(index);
 }
 
-void OptionButton::Caption(std::string text) {
-  touched(), caption_ = std::move(text);
-  note(TEXT);
-}
-
 void OptionButton::back_to_design() {
-  Control::back_to_design();
-  caption_.clear();
+  Captioned::back_to_design();
   value_ = 0;
 }
 
@@ -124,14 +112,8 @@ void CheckBox::Value(int v) {
   Click.fire(index);
 }
 
-void CheckBox::Caption(std::string text) {
-  touched(), caption_ = std::move(text);
-  note(TEXT);
-}
-
 void CheckBox::back_to_design() {
-  Control::back_to_design();
-  caption_.clear();
+  Captioned::back_to_design();
   value_ = 0;
 }
 

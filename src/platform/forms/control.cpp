@@ -55,10 +55,17 @@ void Control::back_to_design() {
   visible_ = enabled_ = true;
   mouse_pointer_ = 0;
   mouse_icon_ = nullptr;
+  font_ = Font{};
   tool_tip_.clear();
   pending_ = 0;
   const auto& all = window.controls_;
   order_ = static_cast<int>(std::find(all.begin(), all.end(), this) - all.begin());
+}
+
+void Control::font(Font f) {
+  touched().font_ = std::move(f);
+  text_changed();
+  note(LOOK);
 }
 
 void Control::note(uint32_t changes) {
@@ -157,45 +164,35 @@ void ImageBox::back_to_design() {
   faint = false;
 }
 
-// --- label
+// --- captions
 
-void Label::Caption(std::string_view text) {
+void Captioned::Caption(std::string_view text) {
   if (touched(), caption_ == text) return;
   caption_ = text;
-  fit();
+  text_changed();
   note(TEXT);
 }
 
-void Label::font(Font f) {
-  touched(), font_ = std::move(f);
-  fit();
-  note(LOOK);
+void Captioned::back_to_design() {
+  Control::back_to_design();
+  caption_.clear();
 }
 
-void Label::fit() {
+void Label::text_changed() {
   if (!auto_size_) return;
   int w = 0;
   int h = 0;
-  desktop().text_size(caption_, font_, 0, w, h);
+  desktop().text_size(caption_, font(), 0, w, h);
   const double px = pixels_in(container_scale());
   Move(Left(), Top(), w / px, h / px);
 }
 
 void Label::back_to_design() {
-  Control::back_to_design();
-  caption_.clear();
-  font_ = Font{};
+  Captioned::back_to_design();
   auto_size_ = false;
   transparent = true;
   border = false;
   align = Align::left;
-}
-
-// --- button, frame, shape
-
-void CommandButton::Caption(std::string text) {
-  touched(), caption_ = std::move(text);
-  note(TEXT);
 }
 
 void CommandButton::held(bool v) {
@@ -204,21 +201,16 @@ void CommandButton::held(bool v) {
 }
 
 void CommandButton::back_to_design() {
-  Control::back_to_design();
-  caption_.clear();
+  Captioned::back_to_design();
   held_ = is_default = is_cancel = false;
 }
 
-void Frame::Caption(std::string text) {
-  touched(), caption_ = std::move(text);
-  note(TEXT);
-}
-
 void Frame::back_to_design() {
-  Control::back_to_design();
-  caption_.clear();
+  Captioned::back_to_design();
   inside = Scale::pixels;
 }
+
+// --- shape
 
 void Shape::FillColor(uint32_t v) {
   touched(), fill_color_ = v;

@@ -23,12 +23,6 @@ struct KeyEvents {
   Event<int> KeyPress;             // character
 };
 
-struct Font {
-  std::string name;  // empty: the platform's own
-  double size = 9;   // points
-  bool bold = false, italic = false;
-};
-
 // The packed colour behind a colour value that may be a system colour (0x8000000F button face, 0x80000005 window
 // background).
 raster::Colour plain_colour(uint32_t colour);
@@ -81,7 +75,6 @@ class PictureBox : public Control, public PointerEvents, public KeyEvents {
   // --- for the design
   Scale inside = Scale::pixels;  // unit of its inside
   bool border = false;           // a thin sunken frame, outside of the inside
-  Font font;
   // --- for the peers: what is on the screen, whether the window is loaded or not. Empty as long as nobody has drawn on
   // the box or read from it; it is then all BackColor.
   raster::Surface& shown() { return auto_redraw_ ? image_ : screen_; }
@@ -114,6 +107,18 @@ void Line(PictureBox& box, auto x1, auto y1, auto x2, auto y2, uint32_t colour,
 }
 void PSet(PictureBox& box, auto x, auto y, uint32_t colour) { draw_dot(box, x, y, colour); }
 
+// What shows a text that the program gives it.
+class Captioned : public Control {
+ public:
+  const std::string& Caption() const { return touched(), caption_; }
+  void Caption(std::string_view text);  // allocates nothing where the old text was as long
+
+ protected:
+  using Control::Control;
+  void back_to_design() override;
+  std::string caption_;
+};
+
 // A button's picture: a cell cut out of a sprite sheet.
 class ImageBox : public Control, public PointerEvents {
  public:
@@ -134,15 +139,11 @@ class ImageBox : public Control, public PointerEvents {
   int cell_x_ = 0, cell_y_ = 0;
 };
 
-class Label : public Control, public PointerEvents {
+class Label : public Captioned, public PointerEvents {
  public:
-  Label(Window& window, const char* name, int index = -1) : Control(window, Kind::label, name, index) {}
-  const std::string& Caption() const { return touched(), caption_; }
-  void Caption(std::string_view text);  // allocates nothing where the old text was as long
+  Label(Window& window, const char* name, int index = -1) : Captioned(window, Kind::label, name, index) {}
   bool AutoSize() const { return auto_size_; }
   void AutoSize(bool v) { auto_size_ = v; }  // the box takes the size of its text
-  const Font& font() const { return font_; }
-  void font(Font f);
   // --- for the design
   bool transparent = true;
   bool border = false;  // a thin frame, with BORDER pixels from it to the text
@@ -151,19 +152,15 @@ class Label : public Control, public PointerEvents {
 
  protected:
   void back_to_design() override;
+  void text_changed() override;
 
  private:
-  void fit();
-  std::string caption_;
-  Font font_;
   bool auto_size_ = false;
 };
 
-class CommandButton : public Control {
+class CommandButton : public Captioned {
  public:
-  CommandButton(Window& window, const char* name, int index = -1) : Control(window, Kind::button, name, index) {}
-  const std::string& Caption() const { return touched(), caption_; }
-  void Caption(std::string text);
+  CommandButton(Window& window, const char* name, int index = -1) : Captioned(window, Kind::button, name, index) {}
   bool held() const { return touched(), held_; }
   void held(bool v);                           // looks held down: what it opens is open
   bool is_default = false, is_cancel = false;  // pressed by Enter, by Escape; for the design
@@ -173,7 +170,6 @@ class CommandButton : public Control {
   void back_to_design() override;
 
  private:
-  std::string caption_;
   bool held_ = false;
 };
 
@@ -228,8 +224,6 @@ class TextBox : public Control {
   TextBox(Window& window, const char* name, int index = -1) : Control(window, Kind::text_box, name, index) {}
   const std::string& Text() const { return touched(), text_; }
   void Text(std::string v);
-  const Font& font() const { return font_; }
-  void font(Font f);
   bool multi_line = false, read_only = false;  // for the design
   Event<> Change;
   Event<int> KeyPress;
@@ -240,7 +234,6 @@ class TextBox : public Control {
 
  private:
   std::string text_;
-  Font font_;
 };
 
 // A list of texts. ListIndex -1: none chosen.
@@ -286,13 +279,12 @@ class ComboBox : public ListControl {
 };
 
 // One of the options of a container is on. Value 1 on, 0 off.
-class OptionButton : public Control {
+class OptionButton : public Captioned {
  public:
-  OptionButton(Window& window, const char* name, int index = -1) : Control(window, Kind::option_button, name, index) {}
+  OptionButton(Window& window, const char* name, int index = -1)
+      : Captioned(window, Kind::option_button, name, index) {}
   int Value() const { return touched(), value_; }
   void Value(int v);  // on: the others of the container go off; fires Click
-  const std::string& Caption() const { return touched(), caption_; }
-  void Caption(std::string text);
   Event<> Click;
 
  protected:
@@ -300,16 +292,13 @@ class OptionButton : public Control {
 
  private:
   int value_ = 0;
-  std::string caption_;
 };
 
-class CheckBox : public Control {
+class CheckBox : public Captioned {
  public:
-  CheckBox(Window& window, const char* name, int index = -1) : Control(window, Kind::check_box, name, index) {}
+  CheckBox(Window& window, const char* name, int index = -1) : Captioned(window, Kind::check_box, name, index) {}
   int Value() const { return touched(), value_; }
   void Value(int v);  // fires Click when it changes
-  const std::string& Caption() const { return touched(), caption_; }
-  void Caption(std::string text);
   Event<> Click;
 
  protected:
@@ -317,22 +306,16 @@ class CheckBox : public Control {
 
  private:
   int value_ = 0;
-  std::string caption_;
 };
 
-class Frame : public Control {
+class Frame : public Captioned {
  public:
-  Frame(Window& window, const char* name, int index = -1) : Control(window, Kind::frame, name, index) {}
-  const std::string& Caption() const { return touched(), caption_; }
-  void Caption(std::string text);
+  Frame(Window& window, const char* name, int index = -1) : Captioned(window, Kind::frame, name, index) {}
   Scale inside = Scale::pixels;  // for the design
 
  protected:
   void back_to_design() override;
   Scale inside_scale() const override { return inside; }
-
- private:
-  std::string caption_;
 };
 
 // A coloured mark: a frame of FillColor, two pixels wide.

@@ -10,6 +10,12 @@ namespace forms {
 
 namespace {
 
+void need_caption(const Control& c) {
+  const bool has_one = c.kind == Kind::label || c.kind == Kind::button || c.kind == Kind::frame ||
+                       c.kind == Kind::option_button || c.kind == Kind::check_box;
+  if (!has_one) throw RuntimeError(438);
+}
+
 using Row = std::vector<const Cell*>;
 
 constexpr int INSET = 10;       // from a frame's or page's edge to what stands in it
@@ -115,25 +121,13 @@ int number_width(int digits) {
 }
 
 const std::string& caption_of(const Control& c) {
-  switch (c.kind) {
-    case Kind::label: return static_cast<const Label&>(c).Caption();
-    case Kind::button: return static_cast<const CommandButton&>(c).Caption();
-    case Kind::frame: return static_cast<const Frame&>(c).Caption();
-    case Kind::option_button: return static_cast<const OptionButton&>(c).Caption();
-    case Kind::check_box: return static_cast<const CheckBox&>(c).Caption();
-    default: throw RuntimeError(438);
-  }
+  need_caption(c);
+  return static_cast<const Captioned&>(c).Caption();
 }
 
 void give_caption(Control& c, const std::string& text) {
-  switch (c.kind) {
-    case Kind::label: static_cast<Label&>(c).Caption(text); return;
-    case Kind::button: static_cast<CommandButton&>(c).Caption(text); return;
-    case Kind::frame: static_cast<Frame&>(c).Caption(text); return;
-    case Kind::option_button: static_cast<OptionButton&>(c).Caption(text); return;
-    case Kind::check_box: static_cast<CheckBox&>(c).Caption(text); return;
-    default: throw RuntimeError(438);
-  }
+  need_caption(c);
+  static_cast<Captioned&>(c).Caption(text);
 }
 
 int needed_width(std::span<const Cell> cells, const Control* in) {

@@ -120,7 +120,6 @@ void PictureBox::back_to_design() {
   auto_size_ = false;
   inside = Scale::pixels;
   border = false;
-  font = Font{};
 }
 
 void draw_line(PictureBox& box, double x1, double y1, double x2, double y2, uint32_t colour, raster::LineForm form) {

@@ -36,7 +36,7 @@ Desktop& desktop() { return *the_desktop; }
 void use_desktop(Desktop* d) { the_desktop = d ? d : &unseen; }
 std::vector<Window*>& all_windows() { return windows; }
 
-int Desktop::message_box(const std::string& /*text*/, int /*style*/, const std::string& /*title*/) { return 1; }
+int Desktop::message_box(const std::string& /*text*/, int /*style*/, const std::string& /*title*/) { return OK; }
 
 void Desktop::text_size(const std::string& text, const Font& font, int wrap, int& width, int& height) {
   height = static_cast<int>(std::lround(font.size * 4 / 3));

@@ -91,9 +91,22 @@ void flush();
 bool reachable(const Control& control);
 bool reachable(const Window& window);
 
-// --- boxes. Buttons 0 OK, 1 OK and Cancel, 3 Yes, No, Cancel, 4 Yes and No; icon 32 question, 48 exclamation; 256
-// second button default, 512 third. Answers 1 OK, 2 Cancel, 6 Yes, 7 No.
-int MsgBox(const std::string& text, int style = 0, const std::string& title = "");
+// --- boxes. A style is the sum of buttons, icon, and which button Enter presses if it is not the first.
+enum BoxStyle : int {
+  OK_ONLY = 0,
+  OK_CANCEL = 1,
+  YES_NO_CANCEL = 3,
+  YES_NO = 4,
+  CRITICAL = 16,
+  QUESTION = 32,
+  EXCLAMATION = 48,
+  INFORMATION = 64,
+  SECOND_BUTTON = 256,
+  THIRD_BUTTON = 512,
+};
+enum Answer : int { OK = 1, CANCEL = 2, YES = 6, NO = 7 };
+// The answer of the user to a box of that style.
+int MsgBox(const std::string& text, int style = OK_ONLY, const std::string& title = "");
 void Beep();
 // The time of day, two digits each of hours in 24-hour count, minutes and seconds: "HH:MM:SS".
 std::string Time();

@@ -65,6 +65,12 @@ enum class Kind : uint8_t {
 enum class Scale : uint8_t { twips, pixels };
 constexpr double pixels_in(Scale s) { return s == Scale::twips ? 1.0 / TWIPS : 1.0; }
 
+struct Font {
+  std::string name;  // empty: the platform's own
+  double size = 9;   // points
+  bool bold = false, italic = false;
+};
+
 class Control {
  public:
   // Adds itself to the window; name is the system's own, index the place in a control array or -1.
@@ -113,6 +119,8 @@ class Control {
   virtual void BackColor(uint32_t v);
   uint32_t ForeColor() const { return touched().fore_color_; }
   virtual void ForeColor(uint32_t v);
+  const Font& font() const { return font_; }
+  void font(Font f);
 
   // --- for the runtime, the peers and the player; none of these loads the window
   // The place in pixels relative to the container's inside.
@@ -141,12 +149,14 @@ class Control {
   virtual Scale inside_scale() const { return Scale::pixels; }
   // The size has changed; quietly: by the design, no event.
   virtual void resized(bool /*quietly*/) {}
+  virtual void text_changed() {}  // its text, or the font of it
   virtual void back_to_design();  // as constructed; the window's design then runs again
 
   double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
   uint32_t back_color_ = 0x8000000F, fore_color_ = 0x80000012;
   bool visible_ = true, enabled_ = true;
   int mouse_pointer_ = 0, order_ = 0;
+  Font font_;
   const char* mouse_icon_ = nullptr;
   std::string tool_tip_;
   uint32_t pending_ = 0;

@@ -17,10 +17,10 @@ struct ButtonRow {
   QMessageBox::ButtonRole role;
 };
 constexpr ButtonRow BUTTONS[] = {
-    {1, "OK", QMessageBox::AcceptRole},
-    {2, "キャンセル", QMessageBox::RejectRole},
-    {6, "はい", QMessageBox::YesRole},
-    {7, "いいえ", QMessageBox::NoRole},
+    {forms::OK, "OK", QMessageBox::AcceptRole},
+    {forms::CANCEL, "キャンセル", QMessageBox::RejectRole},
+    {forms::YES, "はい", QMessageBox::YesRole},
+    {forms::NO, "いいえ", QMessageBox::NoRole},
 };
 
 // The buttons of a style from left to right, and the answer that Escape gives.
@@ -30,10 +30,10 @@ struct StyleRow {
   int escape;
 };
 constexpr StyleRow STYLES[] = {
-    {0, {1}, 1},
-    {1, {1, 2}, 2},
-    {3, {6, 7, 2}, 2},
-    {4, {6, 7}, 7},
+    {forms::OK_ONLY, {forms::OK}, forms::OK},
+    {forms::OK_CANCEL, {forms::OK, forms::CANCEL}, forms::CANCEL},
+    {forms::YES_NO_CANCEL, {forms::YES, forms::NO, forms::CANCEL}, forms::CANCEL},
+    {forms::YES_NO, {forms::YES, forms::NO}, forms::NO},
 };
 
 const StyleRow& style_row(int style) {
@@ -45,10 +45,10 @@ const StyleRow& style_row(int style) {
 
 QMessageBox::Icon icon_of(int style) {
   switch (style & 0x70) {
-    case 16: return QMessageBox::Critical;
-    case 32: return QMessageBox::Question;
-    case 48: return QMessageBox::Warning;
-    case 64: return QMessageBox::Information;
+    case forms::CRITICAL: return QMessageBox::Critical;
+    case forms::QUESTION: return QMessageBox::Question;
+    case forms::EXCLAMATION: return QMessageBox::Warning;
+    case forms::INFORMATION: return QMessageBox::Information;
     default: return QMessageBox::NoIcon;
   }
 }

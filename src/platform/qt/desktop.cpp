@@ -85,8 +85,12 @@ bool QtDesktop::file_dialog(forms::FileDialog& dialog) { return qt::file_dialog(
 void QtDesktop::error_box(int number, const std::string& what) {
   const std::string file = text::interrupted_file();
   qt::message_box(
-      "実行時エラー '" + std::to_string(number) + "':\n\n" + what + (file.empty() ? "" : "\n\nファイル名 : " + file),
-      16, from_qt(QCoreApplication::applicationName()));
+      "実行時エラー '" + std::to_string(number) + "':
+
+" + what + (file.empty() ? "" : "
+
+ファイル名 : " + file),
+      forms::CRITICAL, from_qt(QCoreApplication::applicationName()));
 }
 
 void QtDesktop::do_events() { QCoreApplication::processEvents(); }

@@ -17,7 +17,7 @@ struct Ink {
 };
 inline Ink ink_of(const Surface& s, Colour colour) {
   const uint32_t pixel = s.to_pixel(colour);
-  if (s.draw.DrawMode != 7) return {0, pixel};
+  if (s.draw.DrawMode != XOR) return {0, pixel};
   return {0xFFFFFFFF, s.depth() == 32 ? pixel & ~OPAQUE : pixel};
 }
 

@@ -30,11 +30,13 @@ constexpr Rect around(const Rect& a, const Rect& b) {
   return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
 }
 
+enum PenMode : int { XOR = 7, COPY = 13 };
+
 struct DrawState {
-  int DrawMode = 13;  // 13 copy pen, 7 XOR pen
-  int DrawWidth = 1;  // pixels, 1 or more
-  int DrawStyle = 0;  // 0 solid, 2 dotted (width 1 only)
-  int FillStyle = 1;  // 0 solid, 1 transparent, 7 diagonal cross
+  int DrawMode = COPY;  // a PenMode
+  int DrawWidth = 1;    // pixels, 1 or more
+  int DrawStyle = 0;    // 0 solid, 2 dotted (width 1 only)
+  int FillStyle = 1;    // 0 solid, 1 transparent, 7 diagonal cross
   Colour ForeColor = 0;
   Colour FillColor = 0;
 };
