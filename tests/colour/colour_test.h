@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "colour/col_win.h"
+#include "colour/colour.h"
 #include "frame/p_win.h"
+#include "frame/rooms.h"
 #include "frame/usr_sub.h"
-#include "palette/cmd_win.h"
 
 namespace kiso {
 
@@ -25,7 +26,8 @@ struct ColourTest : testing::Test {
   QuietDesktop screen;
   ColourTest() {
     use_desktop(&screen);
-    P_WIN.Form_Load = [] {};  // settings and dictionaries stay as this test sets them
+    P_WIN.Form_Load = [] {};               // settings and dictionaries stay as this test sets them
+    ROOMS.show_tool = mark_edited_colour;  // of what a change of tool shows, this room's part
     COL_WIN.Show();
     TOOL_CHANGED();
   }

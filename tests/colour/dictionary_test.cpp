@@ -3,14 +3,13 @@
 #include "colour/col_win.h"
 #include "colour/colour.h"
 #include "frame/p_win.h"
-#include "palette/cmd_win.h"
 
 namespace kiso {
 namespace {
 
 struct DictionaryCells : testing::Test {
   DictionaryCells() {
-    for (Window* w : {static_cast<Window*>(&P_WIN), static_cast<Window*>(&CMD_WIN), static_cast<Window*>(&COL_WIN)})
+    for (Window* w : {static_cast<Window*>(&P_WIN), static_cast<Window*>(&COL_WIN)})
       w->Form_Load = w->Form_Resize = [] {};
   }
   static void set_cell(int dictionary, int cell, int16_t r, int16_t g, int16_t b) {

@@ -1,12 +1,19 @@
 // The windows of the tools' numbers: what opens and closes them, what their bars and buttons set.
 #include "palette/param_win.h"
 #include "colour/colour_test.h"
+#include "palette/cmd_win.h"
+#include "palette/palette.h"
 #include "palette/palette_table.h"
+#include "tools/wiring.h"
 
 namespace kiso {
 namespace {
 
 struct ParamWindows : ColourTest {
+  ParamWindows() {
+    wire_palette();
+    wire_tools();
+  }
   static void choose(int16_t tool) {
     CUR_TOOL = tool;
     TOOL_CHANGED();
