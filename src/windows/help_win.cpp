@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "colour/col_win.h"
-#include "palette/cmd_win.h"
+#include "frame/rooms.h"
 #include "windows/help_page.h"
 #include "windows/windows.h"
 
@@ -15,8 +14,12 @@ constexpr int W = 600, H = 560;
 
 // Beside the palettes, on the side that has more room, and no wider than that.
 void place_help() {
-  const double palettes_left = std::min(CMD_WIN.Left(), COL_WIN.Left());
-  const double palettes_right = std::max(CMD_WIN.Left() + CMD_WIN.Width(), COL_WIN.Left() + COL_WIN.Width());
+  double palettes_left = screen_width();
+  double palettes_right = 0;
+  for (const Window* palette : ROOMS.side_windows) {
+    palettes_left = std::min(palettes_left, palette->Left());
+    palettes_right = std::max(palettes_right, palette->Left() + palette->Width());
+  }
   const double room_right = screen_width() - palettes_right;
   const double width = std::min(HELP_WIN.Width(), std::max(palettes_left, room_right));
   const double left = room_right > palettes_left ? palettes_right : palettes_left - width;

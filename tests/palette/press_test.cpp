@@ -1,5 +1,4 @@
 // Which buttons look pressed, which panel lies in front, and how the two palettes replace each other.
-#include "dialogs/set_win.h"
 #include "palette/palette_fixture.h"
 
 namespace kiso {
@@ -86,25 +85,6 @@ TEST_F(Palette, AButtonWithoutACommandComesUpAgainAndKeepsTheTool) {
   click(CMD_WIN.CMD_B(20));
   EXPECT_EQ(CUR_TOOL, 6);
   EXPECT_EQ(pressed(CMD_WIN.CMD_B), Pressed{5});
-}
-
-TEST_F(Palette, MomentaryButtonsComeUpAgain) {
-  click(CMD_WIN.ROOT_B(2));
-  desktop_.answers = {NO, NO};  // to Load and to New
-  desktop_.files = {std::nullopt};
-  for (int i = 0; i < 7; ++i) click(CMD_WIN.FILE_B(i));
-  EXPECT_EQ(pressed(CMD_WIN.FILE_B), Pressed{});
-  click(CMD_WIN.ROOT_B(5));
-  for (int i = 0; i < 6; ++i) click(CMD_WIN.EFCT_B(i));
-  EXPECT_EQ(pressed(CMD_WIN.EFCT_B), Pressed{});
-  click(CMD_WIN.ROOT_B(3));
-  for (int i = 1; i < 5; ++i) {
-    click(CMD_WIN.SYS_B(i));
-    enter([] { SET_WIN.Unload(); });  // the palette waits for it
-  }
-  EXPECT_EQ(pressed(CMD_WIN.SYS_B), Pressed{});
-  for (int i = 0; i < 3; ++i) click(CMD_WIN.OPT_W_B(i));
-  EXPECT_EQ(pressed(CMD_WIN.OPT_W_B), Pressed{});
 }
 
 TEST_F(Palette, TheFileButtonsKnowWhichMouseButtonItWas) {

@@ -7,77 +7,13 @@
 #include <fstream>
 
 #include "addin/addin.h"
-#include "palette_stage.h"
-#include "persist/persist.h"
+#include "persist/roads.h"
 
 namespace {
 
 using namespace stage;  // NOLINT(google-build-using-namespace)
 
-std::string in_home(const std::string& name) { return home().path + "/" + name; }
-std::string bytes_of(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-void put(const std::string& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
-
-// An add-in that joins its arguments by a blank each: everything behind the temporary file is the picture's name.
-void write_addin(const std::string& name, const std::string& script) {
-  put(in_home(name), "#!/bin/sh\ntemp=$1; shift; IFS=' '; name=\"$*\"; home=$(dirname \"$0\")\n" + script + "\n");
-  chmod(in_home(name).c_str(), 0755);
-}
-
-// "name" for a foreign picture, which here is a BMP under another name.
-std::string foreign(const std::string& name, char letter = 'b') {
-  raster::save_bmp(raster::Surface(3, 2, 32, colour_of(letter)), in_home("foreign.bmp"));
-  std::filesystem::rename(in_home("foreign.bmp"), in_home(name));
-  return in_home(name);
-}
-
-const Picture FOREIGN = {"bbb", "bbb"};
 const char* const UNKNOWN = "Add_In情報が不正です実行ファイルを見つけられません";
-
-struct Roads : testing::Test {
-  Roads() {
-    start();
-    view(80, 80);
-    show({"r.", ".g"});
-    write_addin("copy-in", "cp -- \"$name\" \"$temp\"");
-    write_addin("copy-out", "cp -- \"$temp\" \"$name\"");
-    forms::enter([] {
-      AD_CNT = 2;
-      AD_ID(0) = "IN", AD_PATH(0) = in_home("copy-in");
-      AD_ID(1) = "OUT", AD_PATH(1) = in_home("copy-out");
-      FR_CNT = FW_CNT = 1;
-      FR_ID(0) = "IN", FR_CMD(0) = "%FN %ON", FR_EXT(0) = "GIF";
-      FW_ID(0) = "OUT", FW_CMD(0) = "%FN %ON", FW_EXT(0) = "GIF";
-      PAL_SHOWN = 1;
-      PAL_SHOW();
-    });
-  }
-  static int load(const std::string& name) {
-    int result = 99;
-    EXPECT_TRUE(forms::enter([&] { LOAD_PICTURE(name, result); }));
-    return result;
-  }
-  static bool save(const std::string& name) {
-    bool saved = false;
-    EXPECT_TRUE(forms::enter([&] { saved = SAVE_PICTURE(name); }));
-    return saved;
-  }
-  static std::string boxes() {
-    std::string text;
-    for (const auto& box : desk().boxes) text += box.text + "\n";
-    return text;
-  }
-  // Temporary pictures that were left behind.
-  static int left_behind() {
-    int n = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(home().path))
-      n += entry.path().filename().string().starts_with("GT");
-    return n;
-  }
-};
 
 TEST_F(Roads, LoadBeginsAnewWithWhatTheReaderHasMade) {
   zoom(4, 0, 0);
@@ -253,7 +189,7 @@ TEST_F(Roads, PalettesThatAreNotWantedStayHidden) {
 
 TEST_F(Roads, SaveGivesTheWriterThePictureAndItsName) {
   zoom(2, 0, 0);
-  click(0, 0);
+  stroke_at(0, 0);
   const Picture picture = text_of(PIC.Image());
   const std::string name = in_home("out.gif");
   forms::enter([] {
@@ -340,49 +276,6 @@ TEST_F(Roads, PalettesAndAutoSaveAreOffWhileAnAddInRuns) {
     EXPECT_EQ(watching.pointer, 99);
     forms::use_desktop(&desk());
   }
-}
-
-// The user closes the program while an add-in runs.
-struct Closing : StageDesktop {
-  void do_events() override {
-    if (!forms::has_ended()) forms::enter([] { P_WIN.Unload(); });
-  }
-};
-
-TEST_F(Roads, TheProgramEndsOverARunningAddIn) {
-  Closing closing;
-  closing.answers = {6};
-  forms::use_desktop(&closing);
-  write_addin("copy-in", "sleep 0.5");
-  const std::string name = foreign("a.gif");
-  int result = 0;
-  EXPECT_FALSE(forms::enter([&] { LOAD_PICTURE(name, result); }));
-  EXPECT_TRUE(forms::has_ended());
-  EXPECT_EQ(forms::fatal_error(), 0);
-  EXPECT_EQ(closing.boxes.size(), 1U);
-  EXPECT_TRUE(std::filesystem::exists(in_home("KISO.CNF")));
-  forms::use_desktop(&desk());
-}
-
-TEST(CommandLine, APictureOfAForeignKindComesUpWithThePalettesWhereTheSettingsSay) {
-  write_addin("copy-in", "cp -- \"$name\" \"$temp\"");
-  put(in_home("KISO.AIN"), "ADIN,IN," + in_home("copy-in") + ",n,0\r\nFFRD,IN,%FN %ON,,GIF\r\n[EOF]\r\n");
-  std::string settings = bytes_of(in_home("DEFAULT.CNF"));
-  for (const auto& [from, to] : {std::pair{"COWL , 12300", "COWL , 3000"}, {"COWT , 0", "COWT , 1500"}}) {
-    const size_t at = settings.find(from);
-    ASSERT_NE(at, std::string::npos) << from;
-    settings.replace(at, std::string(from).size(), to);
-  }
-  put(in_home("KISO.CNF"), settings);
-  const std::string name = foreign("a.gif");
-  start(name);
-  EXPECT_FALSE(forms::has_ended());
-  EXPECT_PIC(FOREIGN);
-  EXPECT_EQ(P_WIN.Caption(), "Kiso :" + name);
-  EXPECT_TRUE(CMD_WIN.Visible());
-  EXPECT_TRUE(COL_WIN.Visible());
-  EXPECT_EQ(COL_WIN.Left(), 3000);
-  EXPECT_EQ(COL_WIN.Top(), 1500);
 }
 
 // The disk is full, and the writer could only spoil the target.

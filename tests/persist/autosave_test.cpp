@@ -87,8 +87,7 @@ TEST(AutoSave, FailsInSilenceAndTriesAgainInItsTime) {
 TEST(AutoSave, ChangesNothingElse) {
   stage::stage({"..", ".."});
   const std::string caption = P_WIN.Caption();
-  select_tool(1);
-  click(0, 0);
+  stroke_at(0, 0);
   every(1);
   tick();
   EXPECT_EQ(PIC_FILE, "");

@@ -204,7 +204,7 @@ TEST(LoadPicture, WorksAgainAfterAFailure) {
 TEST(SavePicture, WritesPicAndChangesNothingElse) {
   stage::stage({"r.", ".b"});
   zoom(2);
-  click(0, 0);
+  stroke_at(0, 0);
   const std::string path = in_home("out.BMP");
   forms::enter([] { Timer2.Enabled(true); });
   EXPECT_TRUE(save(path));

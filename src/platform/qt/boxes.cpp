@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include "platform/forms/runtime.h"
 #include "platform/qt/look.h"
 #include "platform/qt/peer.h"
 

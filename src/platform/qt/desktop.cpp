@@ -84,13 +84,16 @@ bool QtDesktop::file_dialog(forms::FileDialog& dialog) { return qt::file_dialog(
 
 void QtDesktop::error_box(int number, const std::string& what) {
   const std::string file = text::interrupted_file();
-  qt::message_box(
-      "実行時エラー '" + std::to_string(number) + "':
+  qt::message_box("実行時エラー '" + std::to_string(number) +
+                      "':
 
-" + what + (file.empty() ? "" : "
+                      " + what + (file.empty() ? "
+                      " : "
 
-ファイル名 : " + file),
-      forms::CRITICAL, from_qt(QCoreApplication::applicationName()));
+                      ファイル名
+                  : " + file),
+                    forms::CRITICAL,
+                    from_qt(QCoreApplication::applicationName()));
 }
 
 void QtDesktop::do_events() { QCoreApplication::processEvents(); }
