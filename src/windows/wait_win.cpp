@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "frame/p_win.h"
+#include "frame/usr_sub.h"
 #include "windows/windows.h"
 
 namespace kiso {

@@ -1,6 +1,8 @@
 // Change color and its three relatives, by the events of a drag.
 #include "engines/fuzzy.h"
-#include "stage.h"
+#include "palette/palette.h"
+#include "tools/tools_stage.h"
+#include "tools/wiring.h"
 
 namespace {
 
@@ -177,7 +179,11 @@ std::vector<std::string> told(int depth, int tool, float right, float bottom) {
   recorder.depth = desk().depth = depth;
   forms::use_desktop(&recorder);
   home();
-  forms::enter([] { START_PROGRAM(""); });
+  forms::enter([] {
+    wire_palette();
+    wire_tools();
+    show_main_window();
+  });
   drag_over(tool, 0, 0, right, bottom);
   forms::use_desktop(&desk());
   EXPECT_EQ(recorder.pointer, 99);

@@ -1,5 +1,5 @@
 // Glass Mirror, by the events of a drag.
-#include "stage.h"
+#include "tools/tools_stage.h"
 
 namespace {
 

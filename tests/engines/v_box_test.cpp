@@ -1,7 +1,7 @@
 // V Box, by the events of a drag. Expected colours are reckoned by hand: hue in whole degrees, the rest exact, the
 // result cut off to whole components.
 #include "engines/value.h"
-#include "stage.h"
+#include "tools/tools_stage.h"
 
 namespace {
 

@@ -3,12 +3,12 @@
 
 #include "addin/addin.h"
 #include "persist/persist.h"
-#include "persist/program_dir.h"
+#include "persist/persist_dir.h"
 
 namespace kiso {
 namespace {
 
-struct Together : ProgramDir {
+struct Together : PersistDir {
   Together() {
     put("DEFAULT.CNF", shipped("DEFAULT.CNF"));
     put("DEFAULT.AIN", shipped("DEFAULT.AIN"));

@@ -84,16 +84,9 @@ bool QtDesktop::file_dialog(forms::FileDialog& dialog) { return qt::file_dialog(
 
 void QtDesktop::error_box(int number, const std::string& what) {
   const std::string file = text::interrupted_file();
-  qt::message_box("実行時エラー '" + std::to_string(number) +
-                      "':
-
-                      " + what + (file.empty() ? "
-                      " : "
-
-                      ファイル名
-                  : " + file),
-                    forms::CRITICAL,
-                    from_qt(QCoreApplication::applicationName()));
+  const std::string read = file.empty() ? "" : "\n\nファイル名 : " + file;
+  qt::message_box("実行時エラー '" + std::to_string(number) + "':\n\n" + what + read, forms::CRITICAL,
+                  from_qt(QCoreApplication::applicationName()));
 }
 
 void QtDesktop::do_events() { QCoreApplication::processEvents(); }
