@@ -32,8 +32,9 @@ int second_of_day(const std::string& time) {
 }
 
 std::string digits_of(int second) {
+  const unsigned of_day = static_cast<unsigned>(second);  // never below 0: each part has two digits
   char digits[7];
-  std::snprintf(digits, sizeof digits, "%02d%02d%02d", second / 3600 % 24, second / 60 % 60, second % 60);
+  std::snprintf(digits, sizeof digits, "%02u%02u%02u", of_day / 3600 % 24, of_day / 60 % 60, of_day % 60);
   return digits;
 }
 
