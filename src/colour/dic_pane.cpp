@@ -91,7 +91,8 @@ void design_dictionary() {
   COL_WIN.Label7.transparent = false;
   COL_WIN.Label7.align = Label::Align::centre;
   COL_WIN.Label7.Caption("WriteMode");
-  Font font{.size = 8};
+  Font font;
+  font.size = 8;
   while (font.size > 4 && forms::text_width("WriteMode", font) > MODE_WIDTH / TWIPS) font.size -= 0.75;
   COL_WIN.Label7.font(font);
   COL_WIN.Label7.ToolTip("辞書に書き込み中 (押すと読み出しへ)");
