@@ -1,5 +1,5 @@
 // The pointer pipeline: what all tools have in common.
-#include "palette_stage.h"
+#include "tools/tools_stage.h"
 
 namespace {
 
@@ -144,7 +144,7 @@ TEST(Pointer, ASpoitClickPicksAndTurnsUndoOn) {
 }
 
 TEST(Pointer, ToolZeroDrawsNothingAndStillCommits) {
-  stage::stage({"...."});
+  stage_with_status({"...."});
   select_tool(0);
   click(1, 0);
   EXPECT_PIC({"...."});
@@ -154,6 +154,7 @@ TEST(Pointer, ToolZeroDrawsNothingAndStillCommits) {
 
 TEST(Pointer, AZoomClickGivesTheLastToolOfTheExpansionPalette) {
   start();
+  show_status_line();
   view(80, 80);
   show(Picture(100, std::string(100, '.')));
   select_tool(10004);

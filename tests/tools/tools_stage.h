@@ -10,12 +10,15 @@ namespace stage {
 inline void target_colour(char letter) { unpack_colour(colour_of(letter), TAR_R, TAR_G, TAR_B); }
 inline void destination_colour(char letter) { unpack_colour(colour_of(letter), DES_R, DES_G, DES_B); }
 
-// The editor started with its status line shown, that picture in a view that has room for it at x8.
-inline void stage_with_status(const Picture& picture) {
-  start();
+inline void show_status_line() {
   forms::enter([] {
     if (STATUS_ON != 1) RB.Click.fire(-1);
   });
+}
+// The editor started with its status line shown, that picture in a view that has room for it at x8.
+inline void stage_with_status(const Picture& picture) {
+  start();
+  show_status_line();
   room_for(picture);
   show(picture);
 }
