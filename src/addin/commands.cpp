@@ -5,6 +5,7 @@
 
 #include "frame/p_win.h"
 #include "platform/disk/lock.h"
+#include "platform/disk/paths.h"
 #include "platform/forms/shell.h"
 #include "platform/text/paths.h"
 #include "platform/text/program_directory.h"
@@ -66,13 +67,15 @@ const Token* token_at(const std::string& command, size_t at) {
 
 }  // namespace
 
-// Another run that holds the name has it for a file that lives now: then the next second's is taken.
+// Another run that holds the name has it for a file that lives now: then the next second's is taken. Where there is no
+// such folder no run has a file.
 void TEMP_NAME(const std::string& prefix, const std::string& extension, std::string& result) {
   TEMP_FREE();
   const std::string time = Time();
   const int now = second_of_day(time);
   for (int later = 0; later < SECONDS_OF_DAY; ++later) {
     result = prefix + digits_of((now + later) % SECONDS_OF_DAY) + "." + extension;
+    if (!disk::is_folder(disk::folder_of(result))) return;
     held_name = text::hold_name(result);
     if (held_name.held()) return;
   }
